@@ -1,0 +1,45 @@
+#include "forms/control.h"
+
+#include "forms/control_array.h"
+#include "forms/window.h"
+#include "forms/workbench.h"
+
+namespace tarnmill {
+
+namespace {
+
+Text without_blanks_around(const Text& text) {
+  const auto first = text.find_first_not_of(u' ');
+  if (first == Text::npos) return {};
+  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+}  // namespace
+
+Control::Control(Window& window, std::string_view name, Place place)
+    : Node{name}, window_{window}, place_{place} {
+  window.add(*this);
+}
+
+Control::~Control() {
+  window_.bench().forget(*this);
+  window_.remove(*this);
+}
+
+void Control::SetFocus() { workbench().set_focus(this); }
+
+Text Control::accessible_name() const {
+  Text name = without_blanks_around(ToolTipText);
+  if (!name.empty()) return name;
+  const auto* caption = dynamic_cast<const Property<Text>*>(find_property("Caption"));
+  return caption == nullptr ? Text{} : without_blanks_around(caption->get());
+}
+
+ControlArrayBase::ControlArrayBase(Window& window, std::string_view name, int first)
+    : window_{window}, name_{name}, first_{first} {
+  window.add(*this);
+}
+
+ControlArrayBase::~ControlArrayBase() = default;
+
+}  // namespace tarnmill

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace tarnmill {
+
+class Workbench;
+
+/// Marks that a handler of the program runs. Windows unload within their own handlers, so an unloaded
+/// window is destroyed only when the outermost scope ends.
+class HandlerScope {
+ public:
+  explicit HandlerScope(Workbench& workbench);
+  ~HandlerScope();
+  HandlerScope(const HandlerScope&) = delete;
+  HandlerScope& operator=(const HandlerScope&) = delete;
+
+ private:
+  Workbench& workbench_;
+};
+
+}  // namespace tarnmill

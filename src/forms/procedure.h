@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "engine/fault.h"
+#include "engine/variant.h"
+#include "forms/conversion.h"
+#include "forms/window.h"
+
+namespace tarnmill {
+
+/// A public procedure of a window, reached by name. It is declared beside the member function that it
+/// names: `Procedure Zumiraj{*this, "Zumiraj", &frmFunc::zumiraj};`
+class Procedure final {
+ public:
+  template <class W, class R, class... Args>
+  Procedure(W& window, std::string_view name, R (W::*member)(Args...))
+      : Procedure{window, name, sizeof...(Args), wrap<R, Args...>(window, member)} {}
+  template <class W, class R, class... Args>
+  Procedure(W& window, std::string_view name, R (W::*member)(Args...) const)
+      : Procedure{window, name, sizeof...(Args), wrap<R, Args...>(window, member)} {}
+  Procedure(const Procedure&) = delete;
+  Procedure& operator=(const Procedure&) = delete;
+
+  [[nodiscard]] std::string_view name() const { return name_; }
+  /// How many arguments it needs.
+  [[nodiscard]] std::size_t arity() const { return arity_; }
+
+  /// Runs it with arguments of any type and gives its result, empty for none. Too few arguments raise
+  /// Invalid-argument.
+  Variant operator()(std::span<const Variant> arguments) const { return call_(arguments); }
+
+ private:
+  using Call = std::function<Variant(std::span<const Variant>)>;
+
+  Procedure(Window& window, std::string_view name, std::size_t arity, Call call)
+      : name_{name}, arity_{arity}, call_{std::move(call)} {
+    window.add(*this);
+  }
+
+  template <class R, class... Args, class W, class M>
+  static Call wrap(W& window, M member) {
+    return [&window, member](std::span<const Variant> arguments) -> Variant {
+      if (arguments.size() < sizeof...(Args)) throw Fault{FaultCode::InvalidArgument};
+      const auto call = [&](auto&... args) -> R { return (window.*member)(args...); };
+      auto values = convert<Args...>(arguments, window.regional(), std::index_sequence_for<Args...>{});
+      if constexpr (std::is_void_v<R>) {
+        std::apply(call, values);
+        return {};
+      } else {
+        return to_variant(std::apply(call, values));
+      }
+    };
+  }
+
+  template <class... Args, std::size_t... I>
+  static std::tuple<std::decay_t<Args>...> convert([[maybe_unused]] std::span<const Variant> arguments,
+                                                   [[maybe_unused]] const Regional& regional,
+                                                   std::index_sequence<I...>) {
+    return {from_variant<std::decay_t<Args>>(arguments[I], regional)...};
+  }
+
+  std::string_view name_;
+  std::size_t arity_;
+  Call call_;
+};
+
+}  // namespace tarnmill

@@ -1,0 +1,73 @@
+#include "forms/files.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "engine/fault.h"
+#include "support/test_program.h"
+
+namespace tarnmill {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FilesTest : public ::testing::Test {
+ protected:
+  TestProgram program;
+  fs::path path = program.folder() / "notes.txt";
+
+  static int fault_of(const std::function<void()>& step) {
+    try {
+      step();
+    } catch (const Fault& fault) {
+      return fault.number();
+    }
+    return 0;
+  }
+};
+
+TEST_F(FilesTest, TextComesBackAsItWasWritten) {
+  const Text text = u"a\r\n\u03C0 \u221A";
+  write_text_file(path, text);
+  EXPECT_EQ(read_text_file(path), text);
+}
+
+TEST_F(FilesTest, AppendingMakesAMissingFile) {
+  append_text_file(path, u"a");
+  append_text_file(path, u"b");
+  EXPECT_EQ(read_text_file(path), u"ab");
+}
+
+TEST_F(FilesTest, AMissingFileIsAFault) {
+  EXPECT_EQ(fault_of([this] { read_text_file(path); }), 53);
+  EXPECT_EQ(fault_of([this] { read_text_file(program.folder()); }), 53);
+}
+
+TEST_F(FilesTest, AFileThatCannotBeWrittenIsAFaultAndLeavesNothingBehind) {
+  const fs::path nowhere = program.folder() / "absent" / "notes.txt";
+  EXPECT_EQ(fault_of([&] { write_text_file(nowhere, u"a"); }), 75);
+  EXPECT_EQ(fault_of([&] { append_text_file(nowhere, u"a"); }), 75);
+  EXPECT_FALSE(fs::exists(nowhere.parent_path()));
+}
+
+TEST_F(FilesTest, AFailedWriteLeavesTheOldFileWhole) {
+  fs::create_directory(path);
+  std::ofstream{path / "old"} << "kept";
+  EXPECT_EQ(fault_of([this] { write_text_file(path, u"new"); }), 75);
+  EXPECT_EQ(read_text_file(path / "old"), u"kept");
+  EXPECT_FALSE(fs::exists(path.string() + ".new"));
+}
+
+TEST_F(FilesTest, ATextThatIsNotUtf8IsReadAsCodePage1252) {
+  std::ofstream{path, std::ios::binary} << "\x80 \xE9";
+  EXPECT_EQ(read_text_file(path), u"\u20AC \u00E9");
+}
+
+TEST_F(FilesTest, AByteOrderMarkIsNotPartOfTheText) {
+  std::ofstream{path, std::ios::binary} << "\xEF\xBB\xBFx";
+  EXPECT_EQ(read_text_file(path), u"x");
+}
+
+}  // namespace
+}  // namespace tarnmill
