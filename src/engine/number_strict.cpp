@@ -1,0 +1,113 @@
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "engine/fault.h"
+#include "engine/number_parts.h"
+#include "engine/number_text.h"
+#include "engine/parity.h"
+
+namespace tarnmill {
+namespace {
+
+constexpr TextView blanks = u" \t\n\v\f\r";
+
+TextView trimmed(TextView text) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == TextView::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+// Reads one whole number text from its front; what is taken is cut off.
+class StrictReader {
+ public:
+  StrictReader(TextView text, const Regional& regional) : rest_{trimmed(text)}, regional_{regional} {}
+
+  std::optional<detail::NumberParts> read() {
+    const bool taken = front() == u'&' ? take_prefixed() : take_decimal();
+    if (!taken || !rest_.empty()) return std::nullopt;
+    return parts_;
+  }
+
+ private:
+  [[nodiscard]] char16_t front() const { return rest_.empty() ? u'\0' : rest_.front(); }
+
+  char16_t take() {
+    const char16_t c = front();
+    rest_.remove_prefix(1);
+    return c;
+  }
+
+  void take_sign() {
+    if (front() != u'-' && front() != u'+') return;
+    if (take() == u'-') parts_.plain += '-';
+  }
+
+  // Whether a group separator stands here between two digits.
+  [[nodiscard]] bool at_group(bool behind_digit) const {
+    return behind_digit && front() == regional_.group_separator() && rest_.size() > 1 &&
+           IsDigitValue(rest_[1]);
+  }
+
+  bool take_digits(int base) {
+    const std::size_t before = rest_.size();
+    while (detail::digit_value(front(), base) >= 0) parts_.plain += static_cast<char>(take());
+    return rest_.size() < before;
+  }
+
+  bool take_whole_part() {
+    bool any = take_digits(10);
+    while (at_group(any)) {
+      take();
+      any = take_digits(10);
+    }
+    return any;
+  }
+
+  bool take_prefixed() {
+    take();
+    parts_.base = detail::prefix_base(front());
+    if (parts_.base == 0) return false;
+    take();
+    return take_digits(parts_.base);
+  }
+
+  bool take_decimal() {
+    take_sign();
+    bool any = take_whole_part();
+    if (front() == regional_.decimal_separator) {
+      take();
+      parts_.plain += '.';
+      any = take_digits(10) || any;
+    }
+    return any && take_exponent();
+  }
+
+  // An exponent may be absent, but not begun and left without a digit.
+  bool take_exponent() {
+    const char16_t letter = front();
+    if (letter != u'e' && letter != u'E' && letter != u'd' && letter != u'D') return true;
+    take();
+    parts_.plain += 'e';
+    take_sign();
+    return take_digits(10);
+  }
+
+  TextView rest_;
+  Regional regional_;
+  detail::NumberParts parts_;
+};
+
+}  // namespace
+
+bool IsNumericText(TextView text, const Regional& regional) {
+  return StrictReader{text, regional}.read().has_value();
+}
+
+double NumberFromTextStrict(TextView text, const Regional& regional) {
+  const auto parts = StrictReader{text, regional}.read();
+  if (!parts) throw Fault{FaultCode::TypeMismatch};
+  return detail::value_of(*parts);
+}
+
+}  // namespace tarnmill
