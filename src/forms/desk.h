@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "engine/evaluator_host.h"
 #include "engine/regional.h"
@@ -25,6 +26,14 @@ class Workbench;
 /// loop turns meanwhile. Only the workbench and windows call them.
 class Desk {
  public:
+  /// Distances from the edges of the paper, in twips.
+  struct PageMargins {
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+  };
+
   virtual ~Desk() = default;
 
   /// \name Dialogs. An empty answer is Cancel.
@@ -80,6 +89,13 @@ class Desk {
   /// Prints a picture on the default printer at x, y in twips of the page. Raises the printer fault (482)
   /// when there is no printer or it fails.
   virtual void print_picture(const Raster& picture, double x, double y) = 0;
+  /// Prints a document within the margins, on as many pages as it needs; none when no line fits between
+  /// them. Raises the printer fault (482) when there is no printer or it fails.
+  virtual void print_document(const RichText& document, const PageMargins& margins) = 0;
+  /// The picture of a file of any kind that can be shown; null when it can't be read or is none.
+  [[nodiscard]] virtual std::unique_ptr<Raster> load_picture(const std::filesystem::path& path) = 0;
+  /// The names of the fonts that text can be shown in, in alphabetical order.
+  [[nodiscard]] virtual std::vector<Text> font_names() = 0;
   ///@}
 
   /// \name Windows on the screen

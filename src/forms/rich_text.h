@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "engine/text.h"
 #include "forms/color.h"
@@ -23,6 +25,12 @@ class RichText {
   virtual void set_text(const Text& text) = 0;
   /// Length in positions, without building the text.
   [[nodiscard]] virtual int length() const = 0;
+  /// The document in the Rich Text Format.
+  [[nodiscard]] virtual std::string rtf() const = 0;
+  /// Replaces everything by what the bytes describe, as far as they can be read, and forgets the history.
+  virtual void set_rtf(std::string_view bytes) = 0;
+  /// Font and size in points of text that was given none; 0 keeps the size.
+  virtual void set_default_font(const Text& name, double size) = 0;
   ///@}
 
   /// \name The selection
@@ -34,6 +42,12 @@ class RichText {
   [[nodiscard]] virtual Text sel_text() const = 0;
   /// Replaces the selection, with the caret behind what was put in.
   virtual void replace_selection(const Text& text) = 0;
+  /// The same in the Rich Text Format.
+  [[nodiscard]] virtual std::string sel_rtf() const = 0;
+  virtual void replace_selection_rtf(std::string_view bytes) = 0;
+  /// Gives each selected character another; formats and selection stay. `change` is handed texts of one
+  /// format and keeps their length.
+  virtual void change_selection(const std::function<Text(TextView)>& change) = 0;
   ///@}
 
   /// \name Format of the selection, or of what is typed next where nothing is selected
@@ -67,6 +81,9 @@ class RichText {
   virtual void redo() = 0;
   [[nodiscard]] virtual bool can_undo() const = 0;
   [[nodiscard]] virtual bool can_redo() const = 0;
+  /// What kind of edit undo or redo is about: 0 any or none, 1 typing, 2 deleting, 4 cutting, 5 pasting.
+  [[nodiscard]] virtual int undo_kind() const = 0;
+  [[nodiscard]] virtual int redo_kind() const = 0;
   virtual void cut() = 0;
   virtual void copy() = 0;
   virtual void paste() = 0;

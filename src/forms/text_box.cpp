@@ -64,6 +64,8 @@ void TextBox::property_changed(const PropertyBase& property) {
   sel_start_ = std::min(caret_after_assignment_, static_cast<int>(Text.get().size()));
   sel_length_ = 0;
   caret_after_assignment_ = 0;
+  // A view has seen the new text with the old selection.
+  SelStart.changed();
   Change.raise();
 }
 

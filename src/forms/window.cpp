@@ -26,16 +26,19 @@ void Window::ShowModal() {
 
 void Window::Hide() { workbench_.hidden(*this); }
 
-void Window::Unload() { workbench_.unload(*this); }
-
-void Window::close() {
+void Window::Unload() {
   const HandlerScope scope{workbench_};
   std::int16_t cancel = 0;
   QueryUnload.raise(cancel);
-  if (cancel != 0) return;
+  if (cancel == 0) workbench_.unload(*this);
+}
+
+void Window::close() {
+  const HandlerScope scope{workbench_};
   const bool was_visible = Visible;
   Unload();
-  if (was_visible && !workbench_.any_visible()) workbench_.end();
+  const bool gone = workbench_.find_window(name()) != this;
+  if (gone && was_visible && !workbench_.any_visible()) workbench_.end();
 }
 
 void Window::PopupMenu(MenuItem& menu) {

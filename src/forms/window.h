@@ -41,10 +41,10 @@ class Window : public Node {
   /// Shows it and returns when a person has closed or hidden it.
   void ShowModal();
   void Hide();
-  /// Raises Unload, then takes it from the workbench; the next touch makes a new one.
+  /// Asks QueryUnload, which may refuse, then raises Unload and takes the window from the workbench; the next
+  /// touch makes a new one.
   void Unload();
-  /// What the platform's close box does: asks QueryUnload, which may refuse, then unloads. The program ends when
-  /// the last visible window closes.
+  /// What the platform's close box does: unloads it. The program ends when the last visible window closes.
   void close();
   /// Pops up a menu, owned by this window or another, at x, y in twips of this window; returns when it
   /// has closed and the entry's Click has run. Without a place it opens at the mouse.

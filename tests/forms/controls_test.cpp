@@ -103,7 +103,7 @@ TEST_F(ControlsTest, HandlersOfAnArrayAreToldTheIndex) {
   window.Keys(3).KeyDown.raise(code, 1);
   EXPECT_EQ(window.notes, (Notes{"Keys 2", "Keys 3 key 65 1"}));
   EXPECT_EQ(code, 39);
-  EXPECT_THROW(window.Keys(4), Fault);
+  EXPECT_THROW(window.Keys(4).press(), Fault);
 }
 
 TEST_F(ControlsTest, APictureKeyShowsItsPressedPictureWhileItIsDown) {

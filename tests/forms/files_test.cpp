@@ -40,8 +40,8 @@ TEST_F(FilesTest, AppendingMakesAMissingFile) {
 }
 
 TEST_F(FilesTest, AMissingFileIsAFault) {
-  EXPECT_EQ(fault_of([this] { read_text_file(path); }), 53);
-  EXPECT_EQ(fault_of([this] { read_text_file(program.folder()); }), 53);
+  EXPECT_EQ(fault_of([this] { EXPECT_EQ(read_text_file(path), u""); }), 53);
+  EXPECT_EQ(fault_of([this] { EXPECT_EQ(read_text_file(program.folder()), u""); }), 53);
 }
 
 TEST_F(FilesTest, AFileThatCannotBeWrittenIsAFaultAndLeavesNothingBehind) {

@@ -29,7 +29,7 @@ TEST_F(PictureBoxTest, ALineLeavesTheCurrentPointAtItsEnd) {
   EXPECT_EQ(surface.CurrentX, 5);
   EXPECT_EQ(surface.CurrentY, 2);
   surface.LineTo(5, 6, red);
-  for (const auto [x, y] : {std::pair{1, 2}, {3, 2}, {5, 2}, {5, 4}, {5, 6}}) {
+  for (const auto& [x, y] : {std::pair{1, 2}, {3, 2}, {5, 2}, {5, 4}, {5, 6}}) {
     EXPECT_EQ(surface.Point(x, y), red) << x << "," << y;
   }
   EXPECT_EQ(surface.Point(4, 4), back);

@@ -37,10 +37,10 @@ class SampleWindow : public Window {
     Activate.handle([this] { note("Activate"); });
     Resize.handle([this] { note("Resize"); });
     Unloading.handle([this] { note("Unload"); });
-    txt.Change.handle([this] { note("Change " + to_utf8(txt.Text)); });
-    lbl.Change.handle([this] { note("Change " + to_utf8(lbl.Caption)); });
+    txt.Change.handle([this] { note("Change " + to_utf8(txt.Text.get())); });
+    lbl.Change.handle([this] { note("Change " + to_utf8(lbl.Caption.get())); });
     check.Click.handle([this] { note("check " + std::to_string(check.Value)); });
-    combo.Click.handle([this] { note("combo " + to_utf8(combo.Text)); });
+    combo.Click.handle([this] { note("combo " + to_utf8(combo.Text.get())); });
     Keys.handle(&Button::Click, this, &SampleWindow::Keys_Click);
     Keys.handle(&Button::KeyDown, this, &SampleWindow::Keys_KeyDown);
     option.handle(&OptionButton::Click, this, &SampleWindow::option_Click);
