@@ -1,0 +1,85 @@
+#include "desktop/binder/rich_text_binding.h"
+
+#include <QKeyEvent>
+
+namespace tarnmill::desktop {
+
+RichTextBinding::RichTextBinding(RichTextBox& box, QTextEdit& edit, WindowView& view)
+    : Binding{box, edit, view}, edit_{edit}, rich_{dynamic_cast<QtRichText&>(box.document())} {}
+
+RichTextBinding::~RichTextBinding() { let_go(); }
+
+void RichTextBinding::start() {
+  edit_.setDocument(&rich_.document());
+  edit_.setContextMenuPolicy(Qt::NoContextMenu);
+  Binding::start();
+  watch(*edit_.viewport());
+  rich_.on_format = [this] { change_widget([this] { show_cursor(); }); };
+  // Queued, since no handler of the program may run while the toolkit is within an edit.
+  connect(
+      &edit_, &QTextEdit::textChanged, this, [this] { take_cursor(); }, Qt::QueuedConnection);
+  connect(
+      &edit_, &QTextEdit::cursorPositionChanged, this, [this] { take_cursor(); }, Qt::QueuedConnection);
+  connect(
+      &edit_, &QTextEdit::selectionChanged, this, [this] { take_cursor(); }, Qt::QueuedConnection);
+}
+
+void RichTextBinding::release() {
+  let_go();
+  Binding::release();
+}
+
+void RichTextBinding::let_go() {
+  if (control() == nullptr) return;
+  rich_.on_format = {};
+  // The document goes with the control; the editor may stay for a while.
+  edit_.setDocument(nullptr);
+}
+
+void RichTextBinding::show_property(std::string_view name) {
+  Binding::show_property(name);
+  if (name == "Text" || name == "SelStart") show_cursor();
+}
+
+void RichTextBinding::show_cursor() {
+  const QTextCursor& cursor = rich_.cursor();
+  const QTextCursor shown = edit_.textCursor();
+  if (shown.position() != cursor.position() || shown.anchor() != cursor.anchor() ||
+      shown.charFormat() != cursor.charFormat()) {
+    edit_.setTextCursor(cursor);
+  }
+}
+
+void RichTextBinding::take_cursor() {
+  if (control() == nullptr || is_changing_widget()) return;
+  const QTextCursor shown = edit_.textCursor();
+  const QTextCursor& cursor = rich_.cursor();
+  const bool moved = shown.position() != cursor.position() || shown.anchor() != cursor.anchor();
+  if (moved || rich_.has_untold_change()) {
+    enter([&] { rich_.follow(shown); });
+  }
+}
+
+bool RichTextBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (control() != nullptr && watched == &edit_ && event->type() == QEvent::KeyPress &&
+      exchange(dynamic_cast<QKeyEvent&>(*event))) {
+    return true;
+  }
+  return Binding::eventFilter(watched, event);
+}
+
+bool RichTextBinding::exchange(const QKeyEvent& key) {
+  if (key.matches(QKeySequence::Copy)) {
+    enter([this] { rich_.copy(); });
+  } else if (key.matches(QKeySequence::Cut)) {
+    enter([this] { rich_.cut(); });
+  } else if (key.matches(QKeySequence::Paste)) {
+    enter([this] { rich_.paste(); });
+  } else {
+    return false;
+  }
+  if (control() != nullptr) change_widget([this] { show_cursor(); });
+  return true;
+}
+
+}  // namespace tarnmill::desktop

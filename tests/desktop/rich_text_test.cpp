@@ -1,0 +1,196 @@
+#include <gtest/gtest.h>
+
+#include "desktop/qt_rich_text.h"
+
+namespace tarnmill::desktop {
+namespace {
+
+class RichTextDocument : public ::testing::Test {
+ protected:
+  RichTextDocument() {
+    rich.on_change = [this] { ++changes; };
+    rich.on_selection = [this] { ++selections; };
+  }
+
+  void select(int start, int length) { rich.select(start, length); }
+
+  QtRichText rich;
+  int changes = 0;
+  int selections = 0;
+};
+
+TEST_F(RichTextDocument, CountsALineBreakAsOnePosition) {
+  rich.set_text(u"ab\r\ncd");
+  EXPECT_EQ(rich.length(), 5);
+  EXPECT_EQ(rich.text(), u"ab\r\ncd");
+  select(3, 2);
+  EXPECT_EQ(rich.sel_text(), u"cd");
+  select(1, 3);
+  EXPECT_EQ(rich.sel_text(), u"b\r\nc");
+}
+
+TEST_F(RichTextDocument, EveryKindOfLineBreakBecomesOne) {
+  rich.set_text(u"a\nb\rc\r\nd");
+  EXPECT_EQ(rich.text(), u"a\r\nb\r\nc\r\nd");
+}
+
+TEST_F(RichTextDocument, NewTextForgetsTheHistoryAndTheSelection) {
+  rich.set_text(u"abc");
+  select(1, 2);
+  rich.replace_selection(u"x");
+  rich.set_text(u"other");
+  EXPECT_FALSE(rich.can_undo());
+  EXPECT_EQ(rich.sel_start(), 0);
+  EXPECT_EQ(rich.sel_length(), 0);
+}
+
+TEST_F(RichTextDocument, ASelectionIsCutToTheDocument) {
+  rich.set_text(u"abc");
+  select(2, 50);
+  EXPECT_EQ(rich.sel_start(), 2);
+  EXPECT_EQ(rich.sel_length(), 1);
+  select(-4, 2);
+  EXPECT_EQ(rich.sel_start(), 0);
+  select(70, 1);
+  EXPECT_EQ(rich.sel_start(), 3);
+  EXPECT_EQ(rich.sel_length(), 0);
+}
+
+TEST_F(RichTextDocument, AReplacementLeavesTheCaretBehindIt) {
+  rich.set_text(u"abcd");
+  select(1, 2);
+  rich.replace_selection(u"x\r\ny");
+  EXPECT_EQ(rich.text(), u"ax\r\nyd");
+  EXPECT_EQ(rich.sel_start(), 4);
+  EXPECT_EQ(rich.sel_length(), 0);
+}
+
+TEST_F(RichTextDocument, ChangesAndSelectionsAreToldOnce) {
+  rich.set_text(u"abcd");
+  EXPECT_EQ(changes, 1);
+  select(1, 2);
+  EXPECT_EQ(selections, 1);
+  EXPECT_EQ(changes, 1);
+  rich.replace_selection(u"x");
+  EXPECT_EQ(changes, 2);
+  select(2, 0);
+  const int before = selections;
+  select(2, 0);
+  EXPECT_EQ(selections, before);
+}
+
+TEST_F(RichTextDocument, AFaultOfAHandlerComesThrough) {
+  rich.on_change = [] { throw 1; };
+  EXPECT_THROW(rich.set_text(u"x"), int);
+  EXPECT_EQ(rich.text(), u"x");
+}
+
+TEST_F(RichTextDocument, EditsAreUndoneAndDoneAgain) {
+  rich.set_text(u"abc");
+  select(0, 1);
+  rich.replace_selection(u"");
+  EXPECT_TRUE(rich.can_undo());
+  rich.undo();
+  EXPECT_EQ(rich.text(), u"abc");
+  EXPECT_TRUE(rich.can_redo());
+  rich.redo();
+  EXPECT_EQ(rich.text(), u"bc");
+}
+
+TEST_F(RichTextDocument, CutCopyAndPasteGoThroughTheClipboard) {
+  rich.set_text(u"abcd");
+  select(1, 2);
+  rich.copy();
+  EXPECT_EQ(rich.text(), u"abcd");
+  rich.cut();
+  EXPECT_EQ(rich.text(), u"ad");
+  EXPECT_TRUE(rich.can_paste());
+  select(2, 0);
+  rich.paste();
+  EXPECT_EQ(rich.text(), u"adbc");
+}
+
+TEST_F(RichTextDocument, AFormatGoesToTheSelectionAlone) {
+  rich.set_text(u"abcd");
+  select(1, 2);
+  rich.set_sel_bold(true);
+  EXPECT_EQ(rich.sel_bold(), true);
+  select(0, 1);
+  EXPECT_EQ(rich.sel_bold(), false);
+  select(0, 4);
+  EXPECT_EQ(rich.sel_bold(), std::nullopt);
+}
+
+TEST_F(RichTextDocument, AFormatIsNoChangeOfTheText) {
+  rich.set_text(u"abcd");
+  select(0, 4);
+  rich.set_sel_italic(true);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(RichTextDocument, EachFormatComesBack) {
+  rich.set_text(u"abcd");
+  select(0, 4);
+  rich.set_sel_font_name(u"JetBrains Mono");
+  rich.set_sel_font_size(17.5);
+  rich.set_sel_underline(true);
+  rich.set_sel_strike_through(true);
+  rich.set_sel_color(rgb(10, 20, 30));
+  rich.set_sel_char_offset(60);
+  EXPECT_EQ(rich.sel_font_name(), u"JetBrains Mono");
+  EXPECT_EQ(rich.sel_font_size(), 17.5);
+  EXPECT_EQ(rich.sel_underline(), true);
+  EXPECT_EQ(rich.sel_strike_through(), true);
+  EXPECT_EQ(rich.sel_italic(), false);
+  EXPECT_EQ(rich.sel_color(), rgb(10, 20, 30));
+  EXPECT_EQ(rich.sel_char_offset(), 60);
+}
+
+TEST_F(RichTextDocument, AFormatWithNothingSelectedIsThatOfWhatIsTypedNext) {
+  rich.set_text(u"ab");
+  select(1, 0);
+  rich.set_sel_bold(true);
+  EXPECT_EQ(rich.sel_bold(), true);
+  rich.replace_selection(u"X");
+  select(1, 1);
+  EXPECT_EQ(rich.sel_bold(), true);
+  select(0, 1);
+  EXPECT_EQ(rich.sel_bold(), false);
+}
+
+TEST_F(RichTextDocument, AlignmentBelongsToParagraphs) {
+  rich.set_text(u"a\r\nb");
+  for (const int alignment : {2, 1, 0}) {
+    select(0, 0);
+    rich.set_sel_alignment(alignment);
+    EXPECT_EQ(rich.sel_alignment(), alignment);
+  }
+  rich.set_sel_alignment(2);
+  select(0, 3);
+  EXPECT_EQ(rich.sel_alignment(), std::nullopt);
+}
+
+TEST_F(RichTextDocument, ASearchSelectsWhatItFinds) {
+  rich.set_text(u"one Two two twofold");
+  EXPECT_EQ(rich.find(u"two", 0, false, false), 4);
+  EXPECT_EQ(rich.sel_text(), u"Two");
+  EXPECT_EQ(rich.find(u"two", 0, false, true), 8);
+  EXPECT_EQ(rich.find(u"two", 11, false, false), 12);
+  EXPECT_EQ(rich.find(u"two", 11, true, false), -1);
+  EXPECT_EQ(rich.sel_text(), u"two");
+}
+
+TEST_F(RichTextDocument, LinesAreCountedFromTheFirst) {
+  rich.set_text(u"ab\r\ncd\r\n");
+  EXPECT_EQ(rich.line_of(0), 0);
+  EXPECT_EQ(rich.line_of(2), 0);
+  EXPECT_EQ(rich.line_of(3), 1);
+  EXPECT_EQ(rich.line_of(6), 2);
+  EXPECT_EQ(rich.line_of(600), 2);
+  select(4, 0);
+  rich.select_line();
+  EXPECT_EQ(rich.sel_text(), u"cd");
+}
+
+}  // namespace
+}  // namespace tarnmill::desktop
