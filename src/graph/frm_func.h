@@ -1,0 +1,304 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "engine/evaluator.h"
+#include "forms/button.h"
+#include "forms/control_array.h"
+#include "forms/field.h"
+#include "forms/image.h"
+#include "forms/label.h"
+#include "forms/list_control.h"
+#include "forms/option_button.h"
+#include "forms/overlay_line.h"
+#include "forms/picture_box.h"
+#include "forms/procedure.h"
+#include "forms/rich_text_box.h"
+#include "forms/text_box.h"
+#include "forms/window.h"
+#include "graph/pen.h"
+#include "graph/plane.h"
+
+namespace tarnmill {
+
+/// Graph mode: draws curves of expressions in the parameter K into a fixed square of 400 by 400 pixels.
+///
+/// The plane is always centred on the surface; `PixelsPerUnit` alone decides its extent. The surface has no
+/// model behind it: a curve, once drawn, is pixels. While a plot runs, `Drawing` is True and most commands do
+/// nothing, since the plot gives the event loop a turn at each point.
+///
+/// The user never types into the two fields: keypad, function list and keys insert into them. Each change of
+/// the y field runs down a chain of parked fields that rewrite powers and keep the exponent as it was typed.
+class frmFunc final : public Window {
+ public:
+  static constexpr std::string_view class_name = "frmFunc";
+
+  explicit frmFunc(Workbench& bench);
+
+  /// \name What other windows call
+  ///@{
+
+  /// The value of `ExpressionY` with x, as text in brackets, in place of each K. The evaluator's error tells
+  /// how it went. A fault on the way is raised with its number and the description "Wrong Syntax".
+  double evaluate_y(double x);
+
+  /// The value of `ExpressionX` with k in place of each K, then y in place of each Y. As `evaluate_y`.
+  double evaluate_x(double k, double y);
+
+  /// Draws grid and axes over what is there.
+  void draw_lines();
+
+  /// Empties the surface to its back colour, frame and tangent hidden; nothing while a plot runs.
+  void clear_without_grid();
+
+  /// The same as the grid key.
+  void redraw() { cmdDrawCage_Click(); }
+
+  /// Runs a plot.
+  void plot() { cmdDraw_Click(); }
+
+  /// Shows the analysis window.
+  void show_analysis() { Command1_Click(); }
+
+  /// Makes the y field the one that takes input.
+  void choose_y();
+
+  /// Rewrites powers of K in `txtYs`, until there is none left.
+  void rewrite_powers();
+
+  /// Appends the two expressions to the history file; what fails is passed over.
+  void save_to_history();
+
+  /// Empties the history and its file, when the person agrees. A file that can't be written keeps what it
+  /// has.
+  void clear_history();
+
+  /// The history file.
+  [[nodiscard]] std::filesystem::path history_path();
+
+  /// One pass of exact replacement.
+  [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
+
+  /// \name The colour of the next curve: that of the axes, the chosen one, the second one
+  ///@{
+  void take_axis_color() { CurveColor = AxisColor.get(); }
+  void take_curve_color() { CurveColor = lblBoja.BackColor.get(); }
+  void take_second_color() { CurveColor = lblBoja2.BackColor.get(); }
+  ///@}
+
+  /// The field that `lblxy` names.
+  [[nodiscard]] TextBox& input_field();
+
+  /// The plane at the present zoom.
+  [[nodiscard]] Plane plane();
+
+  /// The window's expression engine, made on first use.
+  [[nodiscard]] Evaluator& graph_evaluator();
+  ///@}
+
+  /// \name State
+  ///@{
+  Field<Variant> PixelsPerUnit{*this, "PixelsPerUnit"};
+  Field<float> OriginX{*this, "OriginX"};
+  Field<float> OriginY{*this, "OriginY"};
+  Field<Color> GridColor{*this, "GridColor"};
+  Field<Color> AxisColor{*this, "AxisColor"};
+  Field<Color> CurveColor{*this, "CurveColor"};
+  Field<bool> Drawing{*this, "Drawing"};
+  Field<bool> GraphDrawn{*this, "GraphDrawn"};
+  Field<Text> ExpressionY{*this, "ExpressionY"};
+  Field<Text> ExpressionX{*this, "ExpressionX"};
+  Field<Variant> TangentX{*this, "TangentX"};
+  Field<Variant> TangentY{*this, "TangentY"};
+  Field<Variant> TangentSlope{*this, "TangentSlope"};
+  Field<float> TextSW{*this, "TextSW"};
+  ///@}
+
+  /// \name Title bar and menu bar
+  ///@{
+  Image immini{*this, "immini", u"minimise"};
+  Image imclose{*this, "imclose", u"close"};
+  Image imhelp{*this, "imhelp", u"help"};
+  Image imcapt{*this, "imcapt", parked};
+  Label lblcap{*this, "lblcap", u"Graph Mode"};
+  Label Label1{*this, "Label1", u"File"};
+  Label Label4{*this, "Label4", u"Edit"};
+  Label Label5{*this, "Label5", u"Examples"};
+  Label Label6{*this, "Label6", u"Help"};
+  ///@}
+
+  /// \name Entry
+  ///@{
+  ControlArray<OptionButton> optAlign{*this, "optAlign", 0, 1};
+  TextBox txtY{*this, "txtY"};
+  TextBox txtX{*this, "txtX"};
+  ComboBox C1{*this, "C1", u"Functions"};
+  ControlArray<Button> cmdSymbol{*this, "cmdSymbol", 0, 17};
+  Button cmdStepen{*this, "cmdStepen", u"^", u" Power (Key P) "};
+  Button cmdbrisi{*this, "cmdbrisi", u"", u" Clear current field (Delete) "};
+  ///@}
+
+  /// \name Commands
+  ///@{
+  Button cmdDraw{*this, "cmdDraw", u"Draw", u" Draw Graph (Enter) "};
+  Button cmdtangenta{*this, "cmdtangenta", u"", u" Draw Tangent (Key T) "};
+  Button cmdClear{*this, "cmdClear", u"", u" Clear/Grid Plotting Area "};
+  Button cmdZoom{*this, "cmdZoom", u"", u" Zoom Plotting Area "};
+  Button Command1{*this, "Command1", u"", u" Function Analyze "};
+  Button Command2{*this, "Command2", u"", u" Function Analize "};
+  Button Command3{*this, "Command3", u"", u" Insert Label "};
+  Button Command4{*this, "Command4", u"", u" Change Colors "};
+  Button Command5{*this, "Command5", u"", u" Print "};
+  Button Command6{*this, "Command6", u"", u" Save Graph As "};
+  ///@}
+
+  /// \name The plot
+  ///@{
+  PictureBox pDraw{*this, "pDraw", 400, 400, default_back_color};
+  OverlayLine Line1{*this, pDraw, "Line1", second_color};
+  OverlayLine Line2{*this, pDraw, "Line2", second_color};
+  OverlayLine Line3{*this, pDraw, "Line3"};
+  OverlayLine Line4{*this, pDraw, "Line4"};
+  OverlayLine Line5{*this, pDraw, "Line5"};
+  OverlayLine Line6{*this, pDraw, "Line6"};
+  Label LblChart{*this, "LblChart"};
+  Label lblPerCent{*this, "lblPerCent"};
+  ///@}
+
+  /// \name State held in controls off the window
+  ///@{
+  TextBox txtYs{*this, "txtYs", parked};
+  TextBox txtY2{*this, "txtY2", parked};
+  TextBox txtY3{*this, "txtY3", u"1", parked};
+  TextBox txtImenilac{*this, "txtImenilac", u"1", parked};
+  Label lblxy{*this, "lblxy", u"Y", parked};
+  Label lblstepen{*this, "lblstepen", parked};
+  Label lblZagrada{*this, "lblZagrada", parked};
+  Label lblImenilac{*this, "lblImenilac", parked};
+  Label lblY3{*this, "lblY3", u"OK", parked};
+  Label lblZbir{*this, "lblZbir", parked};
+  Label lblzm{*this, "lblzm", u"20", parked};
+  Label lblBoja{*this, "lblBoja", parked};
+  Label lblBoja2{*this, "lblBoja2", parked};
+  Label lblgrid{*this, "lblgrid", parked};
+  Label lblosa{*this, "lblosa", parked};
+  Label lblconv{*this, "lblconv", parked};
+  Label lblUn{*this, "lblUn", parked};
+  Label lbly{*this, "lbly", parked};
+  TextBox Text1{*this, "Text1", parked};
+  Button cmdEval{*this, "cmdEval", u"", u" Evaluate function Y(x) ", parked};
+  Button cmdrad{*this, "cmdrad", u"", u" Convert Deg to Rad ", parked};
+  Button cmdDrawCage{*this, "cmdDrawCage", u"&Grid", u" Show Grid ", parked};
+  RichTextBox rtb{*this, "rtb", parked};
+  ///@}
+
+  /// \name Procedures by name
+  ///@{
+  Procedure F{*this, "F", &frmFunc::evaluate_y};
+  Procedure F2{*this, "F2", &frmFunc::evaluate_x};
+  Procedure DrawLines{*this, "DrawLines", &frmFunc::draw_lines};
+  Procedure Clearwith{*this, "Clearwith", &frmFunc::clear_without_grid};
+  Procedure Redraw{*this, "Redraw", &frmFunc::redraw};
+  Procedure ponovo{*this, "ponovo", &frmFunc::plot};
+  Procedure cepaj{*this, "cepaj", &frmFunc::plot};
+  Procedure Analiza{*this, "Analiza", &frmFunc::show_analysis};
+  Procedure digniga{*this, "digniga", &frmFunc::choose_y};
+  Procedure Zamenisve{*this, "Zamenisve", &frmFunc::rewrite_powers};
+  Procedure funcSave{*this, "funcSave", &frmFunc::save_to_history};
+  Procedure ReplaceAll{*this, "ReplaceAll", &frmFunc::replace_all};
+  Procedure Boje2{*this, "Boje2", &frmFunc::take_axis_color};
+  Procedure Boje3{*this, "Boje3", &frmFunc::take_curve_color};
+  Procedure Boje4{*this, "Boje4", &frmFunc::take_second_color};
+  Procedure Boje5{*this, "Boje5", &frmFunc::take_curve_color};
+  ///@}
+
+ private:
+  static constexpr Color default_back_color = 9747613;
+  static constexpr Color default_curve_color = 0xFF0000;
+  static constexpr Color second_color = 0x2352F1;
+
+  // The layout, and which handler answers what.
+  void lay_out();
+  void lay_out_keypad();
+  void lay_out_frame();
+  void connect_window();
+  void connect_title_bar();
+  void connect_picture(Image& image);
+  void connect_menu_bar();
+  void connect_entry();
+  void connect_exponent();
+  void connect_commands();
+
+  // Start and the window's own events.
+  void Form_Load();
+  void Form_Activate();
+  void Form_Resize();
+  void Form_Unload();
+  void Form_KeyDown(int& KeyCode, int Shift);
+  void Form_MouseMove(int Button, int Shift, float X, float Y);
+  void load_history();
+  void load_colors();
+  void load_recent();
+  [[nodiscard]] Color stored_color(TextView name, Color otherwise);
+  [[nodiscard]] bool text_is_selected();
+
+  // Title bar and menu bar.
+  void immini_Click();
+  void imclose_Click();
+  void imhelp_Click();
+  void lblcap_MouseDown(int Button, int Shift, float X, float Y);
+
+  // Surface.
+  void cmdDrawCage_Click();
+  void cmdClear_Click();
+  void pDraw_MouseMove(int Button, int Shift, float X, float Y);
+  void show_coordinates(float x, float y);
+  void hide_frame();
+  void empty_surface();
+
+  // Entry.
+  void optAlign_Click(int Index);
+  void cmdSymbol_Click(int Index);
+  void cmdStepen_Click();
+  void cmdbrisi_Click();
+  void C1_Click();
+  void C1_KeyDown(int& KeyCode, int Shift);
+  void Command1_Click();
+  void Command2_Click();
+  void insert(const Text& text);
+  [[nodiscard]] bool takes_input(TextView field) const { return lblxy.Caption.get() == field; }
+
+  // The keys of the two fields.
+  void field_KeyDown(int& KeyCode, int Shift);
+  void run_entry_key(int key_code);
+  void run_letter_key(int key_code);
+  void field_Click();
+
+  // The chain behind the y field.
+  void txtY_Change();
+  void txtYs_Change();
+  void txtY2_Change();
+  void copy_to_keypad(const Control& source, std::string_view property);
+
+  // Plot.
+  void cmdDraw_Click();
+  void run_plot();
+  void begin_plot();
+  bool plot_points();
+  bool plot_point(double k, Pen& pen);
+  void draw_to(Pen& pen, double x, double y);
+  void show_progress(double k);
+  void finish_plot();
+  void add_to_recent();
+
+  // Commands without a place on the window.
+  void cmdEval_Click();
+  void cmdrad_Click();
+
+  std::optional<Evaluator> graph_evaluator_;
+};
+
+}  // namespace tarnmill
