@@ -20,7 +20,8 @@ inline constexpr Color active_border = static_cast<Color>(0x8000000A);
 inline constexpr Color button_face = static_cast<Color>(0x8000000F);
 
 /// The colour to paint for a colour number: system colours resolved to this program's own palette
-/// (the active border is 212, 208, 200, the button face 236, 232, 223; any other index is black), others as they are.
+/// (the active border is 212, 208, 200, the button face 236, 232, 223; any other index is black), others as
+/// they are.
 [[nodiscard]] Color resolve(Color color);
 
 [[nodiscard]] constexpr int red_of(Color color) { return color & 0xFF; }

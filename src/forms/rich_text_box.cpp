@@ -45,7 +45,9 @@ ComputedProperty::Getter RichTextBox::getter(std::optional<T> (RichText::*getter
 
 template <class T, class Given>
 ComputedProperty::Setter RichTextBox::setter(void (RichText::*setter_of)(Given)) {
-  return [this, setter_of](const Variant& value) { (*document_.*setter_of)(from_variant<T>(value, regional())); };
+  return [this, setter_of](const Variant& value) {
+    (*document_.*setter_of)(from_variant<T>(value, regional()));
+  };
 }
 
 RichTextBox::RichTextBox(Window& window, std::string_view name, Place place)
@@ -88,7 +90,10 @@ RichTextBox::RichTextBox(Window& window, std::string_view name, Place place)
     Text.changed();
     Change.raise();
   };
-  document_->on_selection = [this] { SelChange.raise(); };
+  document_->on_selection = [this] {
+    SelStart.changed();
+    SelChange.raise();
+  };
 }
 
 RichTextBox::~RichTextBox() = default;

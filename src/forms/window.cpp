@@ -27,10 +27,19 @@ void Window::ShowModal() {
 void Window::Hide() { workbench_.hidden(*this); }
 
 void Window::Unload() {
+  // Handlers of the unloading may unload it themselves.
+  if (unloading_) return;
   const HandlerScope scope{workbench_};
-  std::int16_t cancel = 0;
-  QueryUnload.raise(cancel);
-  if (cancel == 0) workbench_.unload(*this);
+  unloading_ = true;
+  try {
+    std::int16_t cancel = 0;
+    QueryUnload.raise(cancel);
+    if (cancel == 0) workbench_.unload(*this);
+  } catch (...) {
+    unloading_ = false;
+    throw;
+  }
+  unloading_ = false;
 }
 
 void Window::close() {

@@ -110,6 +110,7 @@ class Window : public Node {
   std::map<std::string_view, Procedure*> procedures_;
   std::vector<Control*> controls_;
   const MenuItem* popup_shown_ = nullptr;
+  bool unloading_ = false;
 };
 
 }  // namespace tarnmill
