@@ -10,6 +10,8 @@ namespace tarnmill {
 void set_conversion_globals(lua_State* state);
 /// `Evaluator()`.
 void set_evaluator_global(lua_State* state);
+/// `Veldrite.Evaluator()`.
+void set_service_global(lua_State* state);
 /// `Rewriting`.
 void set_rewriting_global(lua_State* state);
 /// GetRegistrySetting and SaveRegistrySetting.

@@ -32,7 +32,7 @@ TEST_F(PropertyTest, AStartValueRaisesNothing) {
 
 TEST_F(PropertyTest, AHandlerMaySetTheSamePropertyAgain) {
   window.txt.Change.handle([this] {
-    window.note(to_utf8(window.txt.Text));
+    window.note(to_utf8(window.txt.Text.get()));
     if (window.txt.Text->size() < 3) window.txt.Text = window.txt.Text.get() + u"+";
   });
   window.txt.Text = u"a";
@@ -42,7 +42,7 @@ TEST_F(PropertyTest, AHandlerMaySetTheSamePropertyAgain) {
 
 TEST_F(PropertyTest, AViewHearsOfAChangeBeforeTheHandlerAndReadsTheCurrentValue) {
   window.lbl.observe(this, [this](const PropertyBase& property) {
-    window.note("view " + std::string{property.name()} + " " + to_utf8(window.lbl.Caption));
+    window.note("view " + std::string{property.name()} + " " + to_utf8(window.lbl.Caption.get()));
   });
   window.lbl.Caption = u"x";
   window.lbl.stop_observing(this);

@@ -1,0 +1,191 @@
+#include <filesystem>
+#include <system_error>
+
+#include "engine/fault.h"
+#include "forms/desk.h"
+#include "forms/raster.h"
+#include "forms/workbench.h"
+#include "mathpad/math_pad.h"
+#include "mathpad/math_pad_names.h"
+#include "shell/recent_list.h"
+
+namespace tarnmill {
+
+namespace {
+
+constexpr TextView document_filter = u"Text (*.txt)|*.txt|RTF (*.rtf)|*.rtf|All Files (*.*)|*.*";
+constexpr TextView image_filter =
+    u"Images (*.bmp;*.jpg;*.jpeg;*.gif;*.wmf)|*.bmp;*.jpg;*.jpeg;*.gif;*.wmf|All Files (*.*)|*.*";
+constexpr int fault_cancelled = 32755;
+constexpr int fault_invalid_picture = 481;
+
+Text ending_of(TextView name) {
+  constexpr std::size_t length = 3;
+  return upper_case(name.size() > length ? name.substr(name.size() - length) : name);
+}
+
+RichTextBox::Format format_of(TextView name) {
+  return ending_of(name) == u"RTF" ? RichTextBox::rtfRTF : RichTextBox::rtfText;
+}
+
+int filter_index_of(TextView name) {
+  const Text ending = ending_of(name);
+  if (ending == u"TXT") return 1;
+  return ending == u"RTF" ? 2 : 3;
+}
+
+std::filesystem::path path_of(TextView name) { return std::filesystem::path{to_utf8(name)}; }
+
+bool exists(TextView name) {
+  std::error_code unreadable;
+  return std::filesystem::exists(path_of(name), unreadable);
+}
+
+/// Runs an operation; a fault, of which a cancelled dialog is one, ends it without a word.
+template <class Operation>
+void quietly(Operation&& operation) {
+  resume_step(std::forward<Operation>(operation));
+}
+
+}  // namespace
+
+bool MathPad::has_name() const { return Caption.get() != unnamed_caption; }
+
+MessageResult MathPad::ask_to_save(const Text& question) {
+  return MsgBox(question, MessageIcon::none, u"Tarnmill", MessageButtons::yes_no_cancel);
+}
+
+Text MathPad::ask_for_file(const FileDialog& dialog) {
+  const std::optional<Text> chosen = bench().desk().choose_file(dialog);
+  bench().leave_if_ended();
+  if (!chosen) throw Fault{fault_cancelled, u"Cancel was selected."};
+  return *chosen;
+}
+
+void MathPad::load_box(const Text& path) { rt1.LoadFile(path_of(path), format_of(path)); }
+
+void MathPad::save_box(const Text& path) { rt1.SaveFile(path_of(path), format_of(path)); }
+
+void MathPad::name_document(const Text& path) {
+  FileName = path;
+  Caption = Text{unnamed_caption} + path;
+}
+
+void MathPad::new_document() {
+  if (rt1.Tag.get() == u"change") {
+    const MessageResult answer = ask_to_save(u"Do you want to save the changes?");
+    if (answer == MessageResult::cancel) return;
+    if (answer == MessageResult::yes) save();
+  }
+  resume_next([&] { rt1.Text.write(u""); }, [&] { Caption = Text{unnamed_caption}; },
+              [&] { clear_toolbar_state(); }, [&] { reset_sel_format(); }, [&] { rt1.Tag = u"notchange"; },
+              [&] { get_edit_status(); });
+}
+
+void MathPad::open_document() {
+  quietly([&] {
+    if (rt1.Tag.get() == u"change") {
+      const MessageResult answer = ask_to_save(u"Do you want to save the changes you made?");
+      if (answer == MessageResult::cancel) return;
+      if (answer == MessageResult::yes) save();
+    }
+    const Text path = ask_for_file(
+        {FileDialog::Kind::open, u"Open", Text{document_filter}, filter_index_of(FileName.get()), 0, {}});
+    load_box(path);
+    name_document(path);
+    rt1.Tag = u"notchange";
+    clear_toolbar_state();
+    get_edit_status();
+    AddRecentFile(bench(), path);
+  });
+}
+
+void MathPad::save_as() {
+  quietly([&] {
+    const int filter_index = has_name() ? filter_index_of(FileName.get()) : 1;
+    const Text path =
+        ask_for_file({FileDialog::Kind::save, u"Save As", Text{document_filter}, filter_index, 0, {}});
+    if (exists(path)) {
+      const Text question = path + u" already exists.\r\nDo you want to replace it?";
+      const MessageResult answer = MsgBox(question, MessageIcon::none, u"Save As", MessageButtons::yes_no);
+      if (answer == MessageResult::no) return;
+    }
+    save_box(path);
+    rt1.Text.write(u"");
+    if (format_of(path) == RichTextBox::rtfText) clear_toolbar_state();
+    load_box(path);
+    name_document(path);
+    get_edit_status();
+    rt1.Tag = u"notchange";
+    AddRecentFile(bench(), path);
+  });
+}
+
+void MathPad::save() {
+  quietly([&] {
+    if (!has_name()) {
+      save_as();
+      return;
+    }
+    const Text path = FileName.get();
+    save_box(path);
+    rt1.Tag = u"notchange";
+    new_document();
+    load_box(path);
+    name_document(path);
+    get_edit_status();
+    rt1.Tag = u"notchange";
+    AddRecentFile(bench(), path);
+  });
+}
+
+void MathPad::save_current() {
+  quietly([&] {
+    if (!has_name()) {
+      save_as();
+      return;
+    }
+    save_box(FileName.get());
+    rt1.Tag = u"notchange";
+  });
+}
+
+void MathPad::mnuRecent_Click(int Index) {
+  if (rt1.Tag.get() == u"change") {
+    const MessageResult answer = ask_to_save(u"Do you want to save the changes you made?");
+    if (answer == MessageResult::cancel) return;
+    if (answer == MessageResult::yes) save_current();
+  }
+  FileName = mnuRecent(Index).Caption.get();
+  open_current();
+}
+
+void MathPad::open_current() {
+  const Text named = has_name() ? Caption->substr(unnamed_caption.size()) : Text{};
+  const Text path = FileName.get();
+  // What can't be opened doesn't take the name of the document that stays.
+  FileName = named;
+  quietly([&] {
+    load_box(path);
+    name_document(path);
+    rt1.Tag = u"notchange";
+    clear_toolbar_state();
+    get_edit_status();
+    AddRecentFile(bench(), path);
+  });
+}
+
+void MathPad::insert_picture() {
+  quietly([&] {
+    Desk& desk = bench().desk();
+    desk.clear_clipboard();
+    const Text path = ask_for_file({FileDialog::Kind::open, u"Insert Image", Text{image_filter}, 0, 0, {}});
+    const std::unique_ptr<Raster> picture = desk.load_picture(path_of(path));
+    if (!picture) throw Fault{fault_invalid_picture, u"Invalid picture"};
+    imubaci.Picture = path;
+    desk.set_clipboard_picture(*picture);
+    paste();
+  });
+}
+
+}  // namespace tarnmill
