@@ -27,9 +27,14 @@ class WatchedDesk final : public QtDesk {
 
   MessageResult message(const MessageBox& box) override;
   bool previous_instance() override { return runs_already; }
+  /// A decimal point, whatever the machine's own setting is.
+  [[nodiscard]] const Regional& regional() override { return point_; }
   void start_move(Window& window) override;
   MenuItem* popup(Window& window, MenuItem& menu, std::optional<std::pair<int, int>> at) override;
   bool show_help(const std::filesystem::path& file, std::int32_t topic) override;
+
+ private:
+  Regional point_;
 };
 
 /// A program of chosen windows on a watched desk, for what passes between windows. Nothing is loaded at
