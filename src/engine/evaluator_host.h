@@ -8,8 +8,8 @@ namespace tarnmill {
 /// An exponent held as numerator and denominator in a window's fields, with the captions that say whether it
 /// counts. The graph's hint leaves lblGot unused.
 struct ExponentHint {
-  Text txtY3;        ///< numerator
-  Text txtImenilac;  ///< denominator
+  Text txtY3;        ///< its last character is the last digit of the denominator
+  Text txtImenilac;  ///< its last character is the last digit of the numerator
   Text lblY3;        ///< "OK" when the fraction counts
   Text lblGot;       ///< "GOT" when the keypad has taken it over
 };

@@ -35,6 +35,24 @@ TEST_F(ControlOnScreen, TheStartShowsThePropertiesAsTheyStand) {
   EXPECT_EQ(widget<QLabel>("lbl").text(), "caption");
 }
 
+TEST_F(ControlOnScreen, ALabelsColoursStandOverThoseOfTheSkin) {
+  form().setStyleSheet("QLabel { color: #111111; background: #eeeeee; }");
+  sample().lbl.Caption = u"\u2588\u2588\u2588\u2588";
+  sample().lbl.ForeColor = rgb(250, 200, 0);
+  sample().lbl.BackColor = rgb(0, 40, 90);
+  const QImage shown = widget<QLabel>("lbl").grab().toImage();
+  EXPECT_EQ(shown.pixelColor(4, shown.height() / 2), QColor(250, 200, 0));
+  EXPECT_EQ(shown.pixelColor(shown.width() - 2, 2), QColor(0, 40, 90));
+}
+
+TEST_F(ControlOnScreen, ATextBoxsBackColourStandsOverThatOfTheSkin) {
+  form().setStyleSheet("QLineEdit { background: #eeeeee; }");
+  sample().txt.Text = u"";
+  sample().txt.BackColor = rgb(0, 40, 90);
+  const QImage shown = widget<QLineEdit>("txt").grab().toImage();
+  EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() / 2), QColor(0, 40, 90));
+}
+
 TEST_F(ControlOnScreen, AControlIsPlacedInTwips) {
   sample().cmd.Left = 1500;
   sample().cmd.Top = 300;

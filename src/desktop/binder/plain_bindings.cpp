@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/qt_raster.h"
 #include "desktop/qt_text.h"
 
 namespace tarnmill::desktop {
 
 LabelBinding::LabelBinding(Control& control, QLabel& label, WindowView& view)
-    : PlainBinding{control, label, view}, label_{label} {
+    : PlainBinding{control, label, view}, label_{label}, colors_{label} {
   label.setTextFormat(Qt::PlainText);
 }
 
@@ -20,12 +19,7 @@ void LabelBinding::show_property(std::string_view name) {
     if (!is_starting() || !caption.empty()) label_.setText(lines_to_qt(caption));
   } else if (name == "ForeColor" || name == "BackColor") {
     const auto color = static_cast<Color>(number_property(name));
-    if (is_starting() && color == 0) return;
-    QPalette palette = label_.palette();
-    palette.setColor(name == "ForeColor" ? QPalette::WindowText : QPalette::Window,
-                     QColor{to_qt(resolve(color))});
-    label_.setPalette(palette);
-    if (name == "BackColor") label_.setAutoFillBackground(true);
+    if (!is_starting() || color != 0) colors_.show(name, color);
   }
 }
 

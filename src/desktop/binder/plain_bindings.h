@@ -5,6 +5,7 @@
 #include <QProgressBar>
 
 #include "desktop/binder/binding.h"
+#include "desktop/binder/control_colors.h"
 
 namespace tarnmill::desktop {
 
@@ -28,6 +29,7 @@ class LabelBinding final : public PlainBinding {
 
  private:
   QLabel& label_;
+  ControlColors colors_;
 };
 
 /// A titled group.

@@ -2,7 +2,6 @@
 
 #include <QTextCursor>
 
-#include "desktop/qt_raster.h"
 #include "desktop/qt_text.h"
 #include "desktop/raster_text.h"
 
@@ -16,7 +15,8 @@ void TextBinding::show_property(std::string_view name) {
     // The toolkit's menu would offer to paste.
     widget().setContextMenuPolicy(box_.Locked ? Qt::NoContextMenu : Qt::DefaultContextMenu);
   } else if (name == "ForeColor" || name == "BackColor") {
-    show_colors(name);
+    const auto color = static_cast<Color>(number_property(name));
+    if (!is_starting() || color != 0) colors_.show(name, color);
   } else if (name.starts_with("Font") && !is_starting()) {
     show_font();
   }
@@ -26,14 +26,6 @@ void TextBinding::show_all() {
   if (shown_text() != box_.Text.get()) show_text(box_.Text);
   const Selection selection{box_.sel_start(), box_.sel_length()};
   if (shown_selection() != selection) show_selection(selection);
-}
-
-void TextBinding::show_colors(std::string_view name) {
-  const auto color = static_cast<Color>(number_property(name));
-  if (is_starting() && color == 0) return;
-  QPalette palette = widget().palette();
-  palette.setColor(name == "ForeColor" ? QPalette::Text : QPalette::Base, QColor{to_qt(resolve(color))});
-  widget().setPalette(palette);
 }
 
 void TextBinding::show_font() { widget().setFont(printed_font(box_.FontProperties::get())); }

@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "desktop/binder/binding.h"
+#include "desktop/binder/control_colors.h"
 #include "forms/text_box.h"
 
 namespace tarnmill::desktop {
@@ -12,7 +13,8 @@ namespace tarnmill::desktop {
 /// locked box is taken back.
 class TextBinding : public Binding {
  public:
-  TextBinding(TextBox& box, QWidget& widget, WindowView& view) : Binding{box, widget, view}, box_{box} {}
+  TextBinding(TextBox& box, QWidget& widget, WindowView& view)
+      : Binding{box, widget, view}, box_{box}, colors_{widget} {}
 
  protected:
   struct Selection {
@@ -38,10 +40,10 @@ class TextBinding : public Binding {
 
  private:
   void show_all();
-  void show_colors(std::string_view name);
   void show_font();
 
   TextBox& box_;
+  ControlColors colors_;
 };
 
 /// A text box on a line edit.
