@@ -9,6 +9,8 @@ namespace tarnmill::desktop {
 
 namespace {
 
+constexpr const char* menu_count = "menus_shown";
+
 void add_entry(QMenu& menu, MenuItem& item) {
   if (item.is_separator()) {
     menu.addSeparator();
@@ -32,6 +34,13 @@ void build_menu(QMenu& menu, const MenuItem& item) {
     if (each->Visible) add_entry(menu, *each);
   }
 }
+
+QAction* run_menu(QMenu& menu, QWidget& owner, QPoint place) {
+  owner.setProperty(menu_count, menus_shown(owner) + 1);
+  return menu.exec(place);
+}
+
+int menus_shown(const QWidget& owner) { return owner.property(menu_count).toInt(); }
 
 MenuItem* entry_of(const QAction* action) {
   if (action == nullptr) return nullptr;

@@ -64,7 +64,7 @@ MenuItem* QtDesk::popup(Window& window, MenuItem& menu, std::optional<std::pair<
   desktop::build_menu(shown, menu);
   desktop::dress_menu(shown);
   const QPoint place = at ? owner.mapToGlobal(QPoint{at->first, at->second}) : QCursor::pos();
-  return desktop::entry_of(shown.exec(place));
+  return desktop::entry_of(desktop::run_menu(shown, owner, place));
 }
 
 void QtDesk::clear_clipboard() { QGuiApplication::clipboard()->clear(); }

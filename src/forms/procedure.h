@@ -25,6 +25,12 @@ class Procedure final {
   template <class W, class R, class... Args>
   Procedure(W& window, std::string_view name, R (W::*member)(Args...) const)
       : Procedure{window, name, sizeof...(Args), wrap<R, Args...>(window, member)} {}
+  /// One without arguments and result, for names that come from data; they must outlive it.
+  Procedure(Window& window, std::string_view name, std::function<void()> action)
+      : Procedure{window, name, 0, [action = std::move(action)](std::span<const Variant>) {
+                    action();
+                    return Variant{};
+                  }} {}
   Procedure(const Procedure&) = delete;
   Procedure& operator=(const Procedure&) = delete;
 

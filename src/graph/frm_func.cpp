@@ -10,6 +10,8 @@ frmFunc::frmFunc(Workbench& bench) : Window{bench, class_name} {
   connect_entry();
   connect_exponent();
   connect_commands();
+  connect_zoom();
+  connect_catalogue();
 }
 
 void frmFunc::connect_window() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <optional>
 #include <string_view>
@@ -23,6 +24,8 @@
 #include "graph/plane.h"
 
 namespace tarnmill {
+
+struct Curve;
 
 /// Graph mode: draws curves of expressions in the parameter K into a fixed square of 400 by 400 pixels.
 ///
@@ -59,6 +62,19 @@ class frmFunc final : public Window {
 
   /// Runs a plot.
   void plot() { cmdDraw_Click(); }
+
+  /// Zooms to what the Edit menu marks, on an empty plane; also while a plot runs, which then goes on at the
+  /// new zoom.
+  void apply_zoom_preset();
+
+  /// Asks for a zoom and takes it, on an empty plane; nothing while a plot runs.
+  void ask_for_zoom();
+
+  /// Puts a curve of the catalogue in the fields and plots it.
+  void draw_curve(const Curve& curve);
+
+  /// Empties the fields that follow an exponent.
+  void forget_exponent();
 
   /// Shows the analysis window.
   void show_analysis() { Command1_Click(); }
@@ -204,6 +220,8 @@ class frmFunc final : public Window {
   Procedure Redraw{*this, "Redraw", &frmFunc::redraw};
   Procedure ponovo{*this, "ponovo", &frmFunc::plot};
   Procedure cepaj{*this, "cepaj", &frmFunc::plot};
+  Procedure Zumiraj{*this, "Zumiraj", &frmFunc::apply_zoom_preset};
+  Procedure Zum{*this, "Zum", &frmFunc::ask_for_zoom};
   Procedure Analiza{*this, "Analiza", &frmFunc::show_analysis};
   Procedure digniga{*this, "digniga", &frmFunc::choose_y};
   Procedure Zamenisve{*this, "Zamenisve", &frmFunc::rewrite_powers};
@@ -231,6 +249,8 @@ class frmFunc final : public Window {
   void connect_entry();
   void connect_exponent();
   void connect_commands();
+  void connect_zoom();
+  void connect_catalogue();
 
   // Start and the window's own events.
   void Form_Load();
@@ -258,6 +278,11 @@ class frmFunc final : public Window {
   void show_coordinates(float x, float y);
   void hide_frame();
   void empty_surface();
+
+  // Zoom.
+  void cmdZoom_MouseDown(int Button, int Shift, float X, float Y);
+  void zoom_to(TextView factor);
+  void show_zoom(TextView factor);
 
   // Entry.
   void optAlign_Click(int Index);
@@ -299,6 +324,8 @@ class frmFunc final : public Window {
   void cmdrad_Click();
 
   std::optional<Evaluator> graph_evaluator_;
+  /// The catalogue's procedures.
+  std::deque<Procedure> curves_;
 };
 
 }  // namespace tarnmill

@@ -12,6 +12,8 @@ frmZoom::frmZoom(Workbench& bench) : Window{bench, class_name} {
   lay_out();
   connect_file_menu();
   connect_edit_menu();
+  connect_zoom_menus();
+  connect_examples_menu();
   connect_copy_popup();
   mnuhelpt.Click.handle([this] { show_program_help(workbench().desk()); });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <deque>
+
 #include "forms/control_array.h"
 #include "forms/menu_item.h"
 #include "forms/procedure.h"
@@ -8,6 +10,7 @@
 namespace tarnmill {
 
 class frmFunc;
+struct Curve;
 
 /// A window that never shows: it owns the menus that graph mode and the expression keypad pop up. Its
 /// handlers do little more than call procedures of `frmFunc`.
@@ -19,6 +22,18 @@ class frmZoom final : public Window {
 
   /// Sends the help key to the control that has the focus; unless it is swallowed there, the help file opens.
   void press_help_key();
+
+  /// \name The marks of the two zoom menus
+  ///@{
+
+  /// The text of the zoom that the Edit menu marks, the default without a mark; leaves it the only mark of
+  /// the three there.
+  [[nodiscard]] TextView settle_on_preset();
+  /// Takes the marks of the three zooms from both menus.
+  void unmark_presets();
+  /// Marks what the popup has for the text of a zoom.
+  void mark_popup(TextView factor);
+  ///@}
 
   /// \name File
   ///@{
@@ -110,11 +125,19 @@ class frmZoom final : public Window {
   void lay_out();
   void connect_file_menu();
   void connect_edit_menu();
+  void connect_zoom_menus();
+  void connect_examples_menu();
   void connect_copy_popup();
 
   void mnuRecent_Click(int Index);
 
+  void choose_zoom(TextView factor);
+  void pick(const Curve& curve);
+
   [[nodiscard]] frmFunc& graph();
+
+  /// The submenus of the catalogue and their items.
+  std::deque<MenuItem> examples_;
 };
 
 }  // namespace tarnmill

@@ -2,6 +2,7 @@
 
 #include "script/lua_answers.h"
 #include "script/lua_app_members.h"
+#include "script/lua_sheet.h"
 #include "script/session.h"
 
 namespace tarnmill {
@@ -40,9 +41,9 @@ int do_events(lua_State* state) {
 }  // namespace
 
 std::span<const luaL_Reg> app_functions() {
-  static constexpr std::array functions{luaL_Reg{"answer", answer}, luaL_Reg{"forget", forget},
-                                        luaL_Reg{"restart", restart}, luaL_Reg{"tick", tick},
-                                        luaL_Reg{"doEvents", do_events}};
+  static constexpr std::array functions{luaL_Reg{"answer", answer},      luaL_Reg{"forget", forget},
+                                        luaL_Reg{"restart", restart},    luaL_Reg{"tick", tick},
+                                        luaL_Reg{"doEvents", do_events}, luaL_Reg{"sheet", sheet}};
   return functions;
 }
 

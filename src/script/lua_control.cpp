@@ -195,7 +195,7 @@ void register_controls(lua_State* state) {
                                            luaL_Reg{"__call", control_call},
                                            luaL_Reg{"__tostring", control_to_text}};
   push_new_type(state, ControlReference::type, control_meta);
-  push_all(state, {common_methods(), list_methods(), surface_methods(), rich_text_methods()});
+  push_all(state, {common_methods(), list_methods(), menu_methods(), surface_methods(), rich_text_methods()});
   push_all(state, {indexed_properties(), grid_and_bar_properties()});
   lua_pushcclosure(state, control_index, 2);
   lua_setfield(state, -2, "__index");

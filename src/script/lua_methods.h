@@ -15,6 +15,7 @@ namespace tarnmill {
 ///@{
 [[nodiscard]] std::span<const luaL_Reg> common_methods();
 [[nodiscard]] std::span<const luaL_Reg> list_methods();
+[[nodiscard]] std::span<const luaL_Reg> menu_methods();
 [[nodiscard]] std::span<const luaL_Reg> surface_methods();
 [[nodiscard]] std::span<const luaL_Reg> rich_text_methods();
 ///@}

@@ -17,17 +17,8 @@ class WorkbenchEvaluatorHost final : public EvaluatorHost {
  public:
   explicit WorkbenchEvaluatorHost(Workbench& bench) : bench_{bench} {}
 
-  ExponentHint graph_hint() override {
-    return {read(graph_window, "txtY3", "Text"),
-            read(graph_window, "txtImenilac", "Text"),
-            read(graph_window, "lblY3", "Caption"),
-            {}};
-  }
-
-  ExponentHint keypad_hint() override {
-    return {read(keypad_window, "txtY3", "Text"), read(keypad_window, "txtImenilac", "Text"),
-            read(keypad_window, "lblY3", "Caption"), read(keypad_window, "lblGot", "Caption")};
-  }
+  ExponentHint graph_hint() override { return hint_of(graph_window); }
+  ExponentHint keypad_hint() override { return hint_of(keypad_window); }
 
   void Boje2() override { run_on_graph("Boje2"); }
   void Boje3() override { run_on_graph("Boje3"); }
@@ -40,7 +31,8 @@ class WorkbenchEvaluatorHost final : public EvaluatorHost {
   bool keypad_visible() override { return bench_.is_visible(keypad_window); }
 
   void show_keypad_result(TextView text) override {
-    PropertyBase* caption = find(keypad_window, "lbrezultat", "Caption");
+    if (!bench_.knows(keypad_window)) return;
+    PropertyBase* caption = find(bench_.window(keypad_window), "lbrezultat", "Caption");
     if (caption != nullptr) caption->write(text);
   }
 
@@ -50,15 +42,21 @@ class WorkbenchEvaluatorHost final : public EvaluatorHost {
   const Regional& regional() override { return bench_.desk().regional(); }
 
  private:
-  [[nodiscard]] PropertyBase* find(std::string_view window, std::string_view control,
-                                   std::string_view property) const {
-    if (!bench_.knows(window)) return nullptr;
-    const Control* found = bench_.window(window).find_control(control);
+  /// The window is looked up once for all of them, since every power of every point asks.
+  [[nodiscard]] ExponentHint hint_of(std::string_view name) const {
+    if (!bench_.knows(name)) return {};
+    const Window& window = bench_.window(name);
+    return {read(window, "txtY3", "Text"), read(window, "txtImenilac", "Text"),
+            read(window, "lblY3", "Caption"), read(window, "lblGot", "Caption")};
+  }
+
+  [[nodiscard]] static PropertyBase* find(const Window& window, std::string_view control,
+                                          std::string_view property) {
+    const Control* found = window.find_control(control);
     return found == nullptr ? nullptr : found->find_property(property);
   }
 
-  [[nodiscard]] Text read(std::string_view window, std::string_view control,
-                          std::string_view property) const {
+  [[nodiscard]] Text read(const Window& window, std::string_view control, std::string_view property) const {
     const PropertyBase* found = find(window, control, property);
     return found == nullptr ? Text{} : found->read().to_text(bench_.desk().regional());
   }

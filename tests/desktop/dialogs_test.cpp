@@ -8,12 +8,15 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/skin/palette.h"
+#include "desktop/skin/style_sheets.h"
 #include "script/temporary_folder.h"
 
 namespace tarnmill::desktop {
@@ -147,6 +150,24 @@ TEST(FontDialogs, GiveTheFontAndKeepTheColour) {
   EXPECT_EQ(chosen->color, rgb(1, 2, 3));
   on_dialog<QFontDialog>([](QFontDialog& shown) { shown.reject(); });
   EXPECT_FALSE(ask_font(nullptr, dialog));
+}
+
+TEST(Dialogs, AreInkOnBoneAndPaperOverADarkWindow) {
+  QWidget window;
+  window.setStyleSheet(instrument_style_sheet());
+  on_dialog<QMessageBox>([](QMessageBox& shown) {
+    for (const QLabel* each : shown.findChildren<QLabel*>()) {
+      EXPECT_EQ(each->palette().color(QPalette::WindowText), palette::ink);
+    }
+  });
+  static_cast<void>(ask_message(&window, {u"Sure?", u"Tarnmill"}));
+  on_dialog<QInputDialog>([](QInputDialog& shown) {
+    EXPECT_EQ(shown.findChild<QLabel*>()->palette().color(QPalette::WindowText), palette::ink);
+    const auto* field = shown.findChild<QLineEdit*>();
+    EXPECT_EQ(field->palette().color(QPalette::Base), palette::paper);
+    EXPECT_EQ(field->palette().color(QPalette::Text), palette::ink);
+  });
+  static_cast<void>(ask_text(&window, {u"Which?", u"Zooming", u""}));
 }
 
 }  // namespace

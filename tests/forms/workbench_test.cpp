@@ -204,6 +204,14 @@ TEST_F(WorkbenchTest, TooFewArgumentsOfAProcedureAreRefused) {
   EXPECT_THROW((*sample().find_procedure("Half"))({}), Fault);
 }
 
+TEST_F(WorkbenchTest, AProcedureMayBeMadeOfACallable) {
+  int runs = 0;
+  const Procedure counting{sample(), "Counting", [&runs] { ++runs; }};
+  EXPECT_EQ(counting.arity(), 0U);
+  EXPECT_TRUE((*sample().find_procedure("Counting"))({}).is_empty());
+  EXPECT_EQ(runs, 1);
+}
+
 TEST_F(WorkbenchTest, APopupIsRememberedByTheWindowThatShowedIt) {
   sample().PopupMenu(other().menu, 30, 45);
   EXPECT_EQ(sample().popup_shown(), &other().menu);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -73,16 +74,19 @@ class GraphTest : public testing::Test {
 
   /// Does something once, at the first turn that a plot gives the event loop.
   void at_first_yield(const std::function<void()>& action) {
-    program.desk.on_yield = [this, action, done = false]() mutable {
-      if (done) return;
-      done = true;
-      program.bench.enter(action);
+    // The desk runs a copy at each turn, so what is left to do stands outside.
+    pending_ = action;
+    program.desk.on_yield = [this] {
+      const auto due = std::exchange(pending_, {});
+      if (due) program.bench.enter(due);
     };
   }
 
   TestProgram program;
 
  private:
+  std::function<void()> pending_;
+
   void press_key_of(char16_t key) {
     if (key == u'^') return form().cmdStepen.press();
     for (const auto& each : form().cmdSymbol) {

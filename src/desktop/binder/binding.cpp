@@ -3,12 +3,14 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWidget>
 #include <cmath>
 #include <utility>
 
 #include "desktop/binder/key_codes.h"
 #include "desktop/binder/window_view.h"
+#include "desktop/menu_builder.h"
 #include "desktop/qt_text.h"
 #include "forms/control.h"
 #include "forms/window.h"
@@ -123,7 +125,15 @@ bool Binding::mouse_event(QMouseEvent& event) {
     pressed_ = event.button() == Qt::LeftButton;
   }
   if (event.type() == QEvent::MouseButtonRelease) released_by_mouse_ = true;
+  const QPointer<QWidget> form = widget_.window();
+  const int menus = menus_shown(*form);
   enter([&] { raise_mouse(event); });
+  const bool opened_menu = form != nullptr && menus_shown(*form) != menus;
+  if (opened_menu && event.type() == QEvent::MouseButtonPress) {
+    // The menu took the release to itself; a key that got the press now would stay down.
+    pressed_ = false;
+    return true;
+  }
   const bool clicked = event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton &&
                        std::exchange(pressed_, false) && widget_.rect().contains(event.position().toPoint());
   if (clicked && !uses_mouse()) enter([this] { control_->press(); });

@@ -111,10 +111,13 @@ QString instrument_style_sheet() {
   const QString label = R"(
 .QLabel { color: @cream; }
 QLabel[tone="strong"] { font-weight: 600; }
+QDialog .QLabel { color: @ink; }
 QLabel[field="green"] { background: @display; border: 1px solid @green-line; border-radius: 5px;
   padding: 0 6px; color: @display-ink; font-family: "JetBrains Mono", "DejaVu Sans Mono"; font-size: 12px; }
 )";
-  return coloured(label + field_rules("QLineEdit", "@display", "@green-line", "@focus-dark") + list_rules() +
+  // Dialogs of the toolkit stand on bone over every window.
+  return coloured(label + field_rules("QLineEdit", "@display", "@green-line", "@focus-dark") +
+                  field_rules("QDialog QLineEdit", "@paper", "@bone-line", "@focus-light") + list_rules() +
                   scroll_bar_rules());
 }
 
