@@ -9,6 +9,7 @@
 #include "complex/frm_menu.h"
 #include "forms/workbench.h"
 #include "graph/frm_func.h"
+#include "graph/frm_unesit.h"
 #include "graph/frm_zoom.h"
 #include "keypad/frm_tast.h"
 #include "mathpad/frm_ansi.h"
@@ -35,6 +36,7 @@ void register_windows(Workbench& bench) {
   bench.set_evaluator_host(make_evaluator_host);
   add<frmFunc>(bench);
   add<frmZoom>(bench);
+  add<frmunesit>(bench);
   add<Form1>(bench);
   add<MathPad>(bench);
   add<frmFind>(bench);

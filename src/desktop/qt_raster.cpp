@@ -10,6 +10,15 @@
 
 namespace tarnmill::desktop {
 
+namespace {
+
+bool write_image(const QImage& image, const std::filesystem::path& path, const char* format) {
+  QSaveFile file{QFile::decodeName(path.c_str())};
+  return file.open(QIODevice::WriteOnly) && image.save(&file, format) && file.commit();
+}
+
+}  // namespace
+
 QRgb to_qt(Color color) { return qRgb(red_of(color), green_of(color), blue_of(color)); }
 
 Color from_qt(QRgb color) { return rgb(qRed(color), qGreen(color), qBlue(color)); }
@@ -57,9 +66,12 @@ void QtRaster::paste(const Raster& other) {
 }
 
 bool QtRaster::save(const std::filesystem::path& path) const {
-  QSaveFile file{QFile::decodeName(path.c_str())};
-  const bool png = file.fileName().endsWith(".png", Qt::CaseInsensitive);
-  return file.open(QIODevice::WriteOnly) && image_.save(&file, png ? "PNG" : "BMP") && file.commit();
+  const bool png = QFile::decodeName(path.c_str()).endsWith(".png", Qt::CaseInsensitive);
+  return write_image(image_, path, png ? "PNG" : "BMP");
+}
+
+bool QtRaster::save_bitmap(const std::filesystem::path& path) const {
+  return write_image(image_, path, "BMP");
 }
 
 QRect QtRaster::take_changed() const { return std::exchange(changed_, QRect{}); }

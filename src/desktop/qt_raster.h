@@ -29,6 +29,7 @@ class QtRaster final : public Raster {
   [[nodiscard]] std::unique_ptr<Raster> copy() const override;
   void paste(const Raster& other) override;
   [[nodiscard]] bool save(const std::filesystem::path& path) const override;
+  [[nodiscard]] bool save_bitmap(const std::filesystem::path& path) const override;
 
   [[nodiscard]] const QImage& image() const { return image_; }
   /// The rectangle within which pixels were drawn since this was asked last, for the one view that shows it.

@@ -5,6 +5,7 @@
 
 #include "desktop/line_walk.h"
 #include "desktop/qt_raster.h"
+#include "desktop/skin/palette.h"
 #include "forms/overlay_line.h"
 #include "forms/picture_box.h"
 
@@ -26,9 +27,20 @@ void paint_line(QPainter& painter, const OverlayLine& line, const Raster& raster
             [&painter, &color](int x, int y) { painter.fillRect(x, y, 1, 1, color); });
 }
 
+void paint_outline(QPainter& painter, const QRect& rect) {
+  painter.setPen(QPen{palette::display_ink, 1, Qt::DashLine});
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(rect.adjusted(0, 0, -1, -1));
+}
+
 }  // namespace
 
 SurfaceView::SurfaceView(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_OpaquePaintEvent); }
+
+void SurfaceView::setOutlined(bool outlined) {
+  outlined_ = outlined;
+  update();
+}
 
 void SurfaceView::show_surface(const PictureBox* surface) {
   surface_ = surface;
@@ -70,6 +82,7 @@ void SurfaceView::paintEvent(QPaintEvent* event) {
   for (const OverlayLine* each : surface_->overlay_lines()) {
     if (each->Visible) paint_line(painter, *each, surface_->raster());
   }
+  if (outlined_) paint_outline(painter, rect());
 }
 
 }  // namespace tarnmill::desktop

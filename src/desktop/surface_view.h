@@ -12,9 +12,14 @@ namespace tarnmill::desktop {
 /// each of the surface's pixels is a block of four, unsmoothed.
 class SurfaceView : public QWidget {
   Q_OBJECT
+  Q_PROPERTY(bool outlined READ is_outlined WRITE setOutlined)
 
  public:
   explicit SurfaceView(QWidget* parent = nullptr);
+
+  bool is_outlined() const { return outlined_; }
+  /// Draws a broken line along the edge, over the surface: it floats above another.
+  void setOutlined(bool outlined);
 
   /// Shows `surface` from now on; null shows nothing. The surface must be taken away before it goes.
   void show_surface(const PictureBox* surface);
@@ -32,6 +37,7 @@ class SurfaceView : public QWidget {
   const PictureBox* surface_ = nullptr;
   /// What the visible overlay lines covered when they were painted last.
   QRect lines_;
+  bool outlined_ = false;
 };
 
 }  // namespace tarnmill::desktop

@@ -16,4 +16,13 @@ Font FontProperties::get() const {
   return {FontName, FontSize, FontBold, FontItalic, FontUnderline, FontStrikethru};
 }
 
+void FontProperties::set(const Font& font) {
+  FontName = font.name;
+  FontSize = font.size;
+  FontBold = font.bold;
+  FontItalic = font.italic;
+  FontUnderline = font.underline;
+  FontStrikethru = font.strike_through;
+}
+
 }  // namespace tarnmill

@@ -23,6 +23,7 @@ struct FontProperties {
 
   /// All six at once.
   [[nodiscard]] Font get() const;
+  void set(const Font& font);
 
   Property<Text> FontName;
   Property<double> FontSize;

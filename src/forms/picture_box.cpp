@@ -1,5 +1,7 @@
 #include "forms/picture_box.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "forms/desk.h"
@@ -9,11 +11,11 @@
 
 namespace tarnmill {
 
-PictureBox::PictureBox(Window& window, std::string_view name, int width, int height, Color back_color)
-    : Control{window, name},
+PictureBox::PictureBox(Window& window, std::string_view name, int width, int height, Color back_color,
+                       SurfaceUnit unit, Place place)
+    : Control{window, name, place},
       FontProperties{static_cast<Node&>(*this)},
-      width_{width},
-      height_{height},
+      unit_{static_cast<float>(unit)},
       raster_{workbench().desk().make_raster(width, height)} {
   BackColor.start_as(back_color);
   raster_->clear(resolve(back_color));
@@ -22,7 +24,7 @@ PictureBox::PictureBox(Window& window, std::string_view name, int width, int hei
 PictureBox::~PictureBox() = default;
 
 void PictureBox::Line(float x1, float y1, float x2, float y2, Color color) {
-  raster_->line(x1, y1, x2, y2, resolve(color));
+  raster_->line(x1 / unit_, y1 / unit_, x2 / unit_, y2 / unit_, resolve(color));
   CurrentX = x2;
   CurrentY = y2;
   record(LineDrawn{x1, y1, x2, y2, color});
@@ -63,7 +65,7 @@ void PictureBox::PrintRotated(const tarnmill::Text& text, int escapement, int we
   how.escapement = escapement;
   how.weight = weight;
   how.height = height;
-  raster_->print(CurrentX, CurrentY, text, how);
+  raster_->print(CurrentX / unit_, CurrentY / unit_, text, how);
   record(Printed{CurrentX, CurrentY, text});
   CurrentX = 0;
   CurrentY = CurrentY + TextHeight(text);
@@ -71,11 +73,11 @@ void PictureBox::PrintRotated(const tarnmill::Text& text, int escapement, int we
 }
 
 float PictureBox::TextWidth(const tarnmill::Text& text) const {
-  return raster_->text_width(text, FontProperties::get());
+  return raster_->text_width(text, FontProperties::get()) * unit_;
 }
 
 float PictureBox::TextHeight(const tarnmill::Text& text) const {
-  return raster_->text_height(text, FontProperties::get());
+  return raster_->text_height(text, FontProperties::get()) * unit_;
 }
 
 Color PictureBox::Point(int x, int y) const { return raster_->point(x, y); }
@@ -105,7 +107,19 @@ void PictureBox::record(Operation operation) {
   if (recording_) operations_.push_back(std::move(operation));
 }
 
+/// Takes the size of the control, at least a pixel.
+void PictureBox::resize() {
+  constexpr double twips_per_pixel = 15;
+  const auto pixels = [](double twips) {
+    return std::max(1, static_cast<int>(std::lround(twips / twips_per_pixel)));
+  };
+  raster_ = workbench().desk().make_raster(pixels(Width), pixels(Height));
+  picture_.reset();
+  erase();
+}
+
 void PictureBox::property_changed(const PropertyBase& property) {
+  if (&property == &Width || &property == &Height) resize();
   if (&property != &BackColor) return;
   picture_.reset();
   erase();

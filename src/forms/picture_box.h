@@ -13,22 +13,29 @@ namespace tarnmill {
 
 class OverlayLine;
 
+/// The unit of a surface's coordinates, and how many of it a pixel is.
+enum class SurfaceUnit { pixel = 1, twip = 15 };
+
 /// The drawing surface: a raster that keeps what was drawn on it until it is cleared, with a current
-/// point, a back colour, a fore colour and a font. Its unit is the pixel.
+/// point, a back colour, a fore colour and a font. All lengths on it are in its own unit.
 class PictureBox final : public Control, public FontProperties {
  public:
-  PictureBox(Window& window, std::string_view name, int width, int height, Color back_color);
+  /// Of this many pixels. Setting its width or height makes a new raster of that size, empty.
+  PictureBox(Window& window, std::string_view name, int width, int height, Color back_color,
+             SurfaceUnit unit = SurfaceUnit::pixel, Place place = Place::on_window);
   ~PictureBox() override;
 
-  /// Size of the drawable area in pixels.
-  [[nodiscard]] float ScaleWidth() const { return static_cast<float>(width_); }
-  [[nodiscard]] float ScaleHeight() const { return static_cast<float>(height_); }
+  /// Size of the drawable area.
+  [[nodiscard]] float ScaleWidth() const { return static_cast<float>(raster_->width()) * unit_; }
+  [[nodiscard]] float ScaleHeight() const { return static_cast<float>(raster_->height()) * unit_; }
+  /// How many of its units a pixel is.
+  [[nodiscard]] float units_per_pixel() const { return unit_; }
 
   /// The current point; setting it moves the pen without drawing.
   Property<float> CurrentX{*this, "CurrentX"};
   Property<float> CurrentY{*this, "CurrentY"};
-  /// Setting it erases the raster to the new colour.
-  Property<Color> BackColor{*this, "BackColor"};
+  /// Setting it erases the raster to the new colour, also when it has that colour already.
+  Property<Color> BackColor{*this, "BackColor", 0, Repeat::counts};
   Property<Color> ForeColor{*this, "ForeColor"};
   /// True prints text without filling behind the glyphs.
   Property<bool> FontTransparent{*this, "FontTransparent", true};
@@ -44,10 +51,10 @@ class PictureBox final : public Control, public FontProperties {
   /// The same turned by `escapement` tenths of a degree anticlockwise, with a weight and a height in
   /// pixels of its own.
   void PrintRotated(const tarnmill::Text& text, int escapement, int weight, int height);
-  /// Size of a text in pixels.
+  /// Size of a text.
   [[nodiscard]] float TextWidth(const tarnmill::Text& text) const;
   [[nodiscard]] float TextHeight(const tarnmill::Text& text) const;
-  /// The colour number of a pixel, -1 outside.
+  /// The colour number of a pixel, -1 outside. x and y count pixels, whatever the unit.
   [[nodiscard]] Color Point(int x, int y) const;
 
   /// Makes what was drawn the persistent bitmap beneath (`Picture` = `Image`).
@@ -89,11 +96,11 @@ class PictureBox final : public Control, public FontProperties {
 
  private:
   void erase();
+  void resize();
   void record(Operation operation);
   [[nodiscard]] TextStyle style() const;
 
-  int width_;
-  int height_;
+  float unit_;
   std::unique_ptr<Raster> raster_;
   std::unique_ptr<Raster> picture_;
   std::vector<OverlayLine*> overlay_lines_;

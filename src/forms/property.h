@@ -34,13 +34,16 @@ class PropertyBase {
   std::string_view name_;
 };
 
+/// Whether setting a property to the value that it has does nothing, or all that a new value does.
+enum class Repeat { ignored, counts };
+
 /// A property that holds its value. Setting it to a new value raises the events that go with it before
-/// the setter returns; setting it to the value it has raises nothing.
+/// the setter returns; setting it to the value it has raises nothing, unless repeats count.
 template <class T>
 class Property final : public PropertyBase {
  public:
-  Property(Node& owner, std::string_view name, T initial = T{})
-      : PropertyBase{owner, name}, value_{std::move(initial)} {}
+  Property(Node& owner, std::string_view name, T initial = T{}, Repeat repeat = Repeat::ignored)
+      : PropertyBase{owner, name}, value_{std::move(initial)}, repeat_{repeat} {}
 
   [[nodiscard]] const T& get() const { return value_; }
   operator const T&() const { return value_; }  // NOLINT: reads like the value it holds
@@ -51,12 +54,12 @@ class Property final : public PropertyBase {
     return *this;
   }
   Property& operator=(const Property& other) {
-    if (&other != this) set(other.value_);
+    if (&other != this || repeat_ == Repeat::counts) set(other.value_);
     return *this;
   }
 
   void set(T value) {
-    if (value == value_) return;
+    if (repeat_ == Repeat::ignored && value == value_) return;
     value_ = std::move(value);
     notify();
   }
@@ -69,6 +72,7 @@ class Property final : public PropertyBase {
 
  private:
   T value_;
+  Repeat repeat_;
 };
 
 /// A property whose value lies elsewhere: a getter and, unless it is read-only, a setter that itself

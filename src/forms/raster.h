@@ -49,6 +49,8 @@ class Raster {
   /// Writes a bitmap or, by the ending of the name, a PNG file, whole or not at all. False when it could
   /// not be written.
   [[nodiscard]] virtual bool save(const std::filesystem::path& path) const = 0;
+  /// The same, a bitmap under any name.
+  [[nodiscard]] virtual bool save_bitmap(const std::filesystem::path& path) const = 0;
 };
 
 }  // namespace tarnmill

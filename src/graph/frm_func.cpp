@@ -1,5 +1,7 @@
 #include "graph/frm_func.h"
 
+#include "engine/number_text.h"
+
 namespace tarnmill {
 
 frmFunc::frmFunc(Workbench& bench) : Window{bench, class_name} {
@@ -10,6 +12,10 @@ frmFunc::frmFunc(Workbench& bench) : Window{bench, class_name} {
   connect_entry();
   connect_exponent();
   connect_commands();
+  connect_plot();
+  connect_output();
+  connect_label();
+  connect_label_box();
   connect_zoom();
   connect_catalogue();
 }
@@ -57,7 +63,37 @@ void frmFunc::connect_commands() {
   cmdDrawCage.Click.handle(this, &frmFunc::cmdDrawCage_Click);
   cmdEval.Click.handle(this, &frmFunc::cmdEval_Click);
   cmdrad.Click.handle(this, &frmFunc::cmdrad_Click);
+}
+
+void frmFunc::connect_plot() {
+  pDraw.MouseDown.handle(this, &frmFunc::pDraw_MouseDown);
   pDraw.MouseMove.handle(this, &frmFunc::pDraw_MouseMove);
+  pDraw.MouseUp.handle(this, &frmFunc::pDraw_MouseUp);
+  cmdtangenta.Click.handle(this, &frmFunc::cmdtangenta_Click);
+}
+
+void frmFunc::connect_output() {
+  Command4.MouseDown.handle(this, &frmFunc::Command4_MouseDown);
+  Command5.MouseDown.handle(this, &frmFunc::Command5_MouseDown);
+  Command6.Click.handle(this, &frmFunc::save_graph);
+}
+
+void frmFunc::connect_label() {
+  Command3.Click.handle(this, &frmFunc::Command3_Click);
+  cmdLabel.Click.handle(this, &frmFunc::cmdLabel_Click);
+  cmdTextCancel.Click.handle(this, &frmFunc::cmdTextCancel_Click);
+  cmdFont.Click.handle(this, &frmFunc::cmdFont_Click);
+  cmdBoja.Click.handle(this, &frmFunc::cmdBoja_Click);
+  Check1.Click.handle([this] { pDraw.FontTransparent = Check1.Value != 0; });
+  LabCUL.Click.handle([this] { LabCUL.BackColor = LabelColor.get(); });
+  Text2.Change.handle(this, &frmFunc::Text2_Change);
+  VsbPtrnNo.Change.handle([this] { txtAngle.Text = NumberToText(VsbPtrnNo.Value.get(), regional()); });
+  txtAngle.Change.handle(this, &frmFunc::txtAngle_Change);
+}
+
+void frmFunc::connect_label_box() {
+  picMCRBox.MouseDown.handle(this, &frmFunc::picMCRBox_MouseDown);
+  picMCRBox.MouseMove.handle(this, &frmFunc::picMCRBox_MouseMove);
 }
 
 }  // namespace tarnmill

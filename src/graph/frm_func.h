@@ -8,8 +8,11 @@
 
 #include "engine/evaluator.h"
 #include "forms/button.h"
+#include "forms/check_box.h"
+#include "forms/common_dialog.h"
 #include "forms/control_array.h"
 #include "forms/field.h"
+#include "forms/frame.h"
 #include "forms/image.h"
 #include "forms/label.h"
 #include "forms/list_control.h"
@@ -19,7 +22,9 @@
 #include "forms/procedure.h"
 #include "forms/rich_text_box.h"
 #include "forms/text_box.h"
+#include "forms/up_down.h"
 #include "forms/window.h"
+#include "graph/label_font.h"
 #include "graph/pen.h"
 #include "graph/plane.h"
 
@@ -92,8 +97,54 @@ class frmFunc final : public Window {
   /// has.
   void clear_history();
 
+  /// Opens the history in the editor, when the person agrees.
+  void open_history();
+
   /// The history file.
   [[nodiscard]] std::filesystem::path history_path();
+
+  /// Prints the plot in its frame on the default printer. Raises the printer fault (482).
+  void print_graph();
+
+  /// Lets the person choose the printer.
+  void set_up_printer();
+
+  /// Writes the plot into a bitmap file that the person names; what fails is passed over.
+  void save_graph();
+
+  /// Asks for the text of a label, unless one waits to be stamped.
+  void begin_label() { Command3_Click(); }
+
+  /// Makes the label part of the plot, where its box stands.
+  void stamp_label();
+
+  /// Takes the label's box away.
+  void drop_label();
+
+  /// Prints a text at the current point of the plot, turned clockwise by an angle in degrees, in a lighter
+  /// weight than the font's own. Overflow for an angle beyond the range.
+  void print_rotated(double angle, const Text& text);
+
+  /// Asks for the colour of the grid (0), the axes (1), the curve (2) or the background (3); nothing while a
+  /// plot runs. All but that of the curve draw the grid again.
+  void choose_color(std::int32_t target);
+
+  /// Goes back to the colours of a first start, which erases the plot.
+  void take_default_colors();
+
+  /// Asks at which x a lasting tangent is wanted.
+  void begin_tangent() { cmdtangenta_Click(); }
+
+  /// Draws the tangent at the x that `frmunesit` holds.
+  void draw_tangent();
+
+  /// \name Diagnostics: nothing depends on them
+  ///@{
+  /// Prints the switches of the label into `picINFO`, while `Debug` is on; gives 0.
+  std::int16_t print_state();
+  /// Prints a point there.
+  void print_point(double x, double y);
+  ///@}
 
   /// One pass of exact replacement.
   [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
@@ -131,6 +182,11 @@ class frmFunc final : public Window {
   Field<Variant> TangentY{*this, "TangentY"};
   Field<Variant> TangentSlope{*this, "TangentSlope"};
   Field<float> TextSW{*this, "TextSW"};
+  Field<Color> LabelColor{*this, "LabelColor"};
+  Field<float> LabelDragX{*this, "LabelDragX"};
+  Field<float> LabelDragY{*this, "LabelDragY"};
+  LogFontRecord LabelFont{*this, "LabelFont"};
+  Field<bool> Debug{*this, "Debug"};
   ///@}
 
   /// \name Title bar and menu bar
@@ -184,6 +240,23 @@ class frmFunc final : public Window {
   Label lblPerCent{*this, "lblPerCent"};
   ///@}
 
+  /// \name The label: the frame that asks for it, and the box that carries it over the plot
+  ///@{
+  Frame frmText{*this, "frmText", u" Enter Label Text "};
+  TextBox Text2{*this, "Text2"};
+  Label Label2{*this, "Label2", u"Rotate text (Deg)"};
+  TextBox txtAngle{*this, "txtAngle", u"0"};
+  UpDown VsbPtrnNo{*this, "VsbPtrnNo", -180, 180};
+  Label LabCUL{*this, "LabCUL"};
+  CheckBox Check1{*this, "Check1", u"&Transparent"};
+  Button cmdFont{*this, "cmdFont", u"&Font"};
+  Button cmdBoja{*this, "cmdBoja", u"Font &Color"};
+  Button cmdLabel{*this, "cmdLabel", u"OK"};
+  Button cmdTextCancel{*this, "cmdTextCancel", u"Cancel"};
+  PictureBox picMCRBox{*this, "picMCRBox", 1, 1, default_back_color, SurfaceUnit::twip};
+  CommonDialog CD1{*this, "CD1"};
+  ///@}
+
   /// \name State held in controls off the window
   ///@{
   TextBox txtYs{*this, "txtYs", parked};
@@ -209,6 +282,7 @@ class frmFunc final : public Window {
   Button cmdrad{*this, "cmdrad", u"", u" Convert Deg to Rad ", parked};
   Button cmdDrawCage{*this, "cmdDrawCage", u"&Grid", u" Show Grid ", parked};
   RichTextBox rtb{*this, "rtb", parked};
+  PictureBox picINFO{*this, "picINFO", 200, 200, default_back_color, SurfaceUnit::pixel, parked};
   ///@}
 
   /// \name Procedures by name
@@ -227,6 +301,20 @@ class frmFunc final : public Window {
   Procedure Zamenisve{*this, "Zamenisve", &frmFunc::rewrite_powers};
   Procedure funcSave{*this, "funcSave", &frmFunc::save_to_history};
   Procedure ReplaceAll{*this, "ReplaceAll", &frmFunc::replace_all};
+  Procedure PrintLog2{*this, "PrintLog2", &frmFunc::open_history};
+  Procedure Stampaj{*this, "Stampaj", &frmFunc::print_graph};
+  Procedure PodesiPrnt{*this, "PodesiPrnt", &frmFunc::set_up_printer};
+  Procedure Sav1{*this, "Sav1", &frmFunc::save_graph};
+  Procedure inslab{*this, "inslab", &frmFunc::begin_label};
+  Procedure daLabele{*this, "daLabele", &frmFunc::stamp_label};
+  Procedure neLabel{*this, "neLabel", &frmFunc::drop_label};
+  Procedure RotateText{*this, "RotateText", &frmFunc::print_rotated};
+  Procedure crtajt{*this, "crtajt", &frmFunc::begin_tangent};
+  Procedure unesix{*this, "unesix", &frmFunc::draw_tangent};
+  Procedure PrintGraphState{*this, "PrintGraphState", &frmFunc::print_state};
+  Procedure PrintPoint{*this, "PrintPoint", &frmFunc::print_point};
+  Procedure Boje{*this, "Boje", &frmFunc::choose_color};
+  Procedure Glavno{*this, "Glavno", &frmFunc::take_default_colors};
   Procedure Boje2{*this, "Boje2", &frmFunc::take_axis_color};
   Procedure Boje3{*this, "Boje3", &frmFunc::take_curve_color};
   Procedure Boje4{*this, "Boje4", &frmFunc::take_second_color};
@@ -240,8 +328,9 @@ class frmFunc final : public Window {
 
   // The layout, and which handler answers what.
   void lay_out();
-  void lay_out_keypad();
+  void lay_out_keypad() const;
   void lay_out_frame();
+  void lay_out_label();
   void connect_window();
   void connect_title_bar();
   void connect_picture(Image& image);
@@ -249,6 +338,10 @@ class frmFunc final : public Window {
   void connect_entry();
   void connect_exponent();
   void connect_commands();
+  void connect_plot();
+  void connect_output();
+  void connect_label();
+  void connect_label_box();
   void connect_zoom();
   void connect_catalogue();
 
@@ -274,7 +367,9 @@ class frmFunc final : public Window {
   // Surface.
   void cmdDrawCage_Click();
   void cmdClear_Click();
+  void pDraw_MouseDown(int Button, int Shift, float X, float Y);
   void pDraw_MouseMove(int Button, int Shift, float X, float Y);
+  void pDraw_MouseUp(int Button, int Shift, float X, float Y);
   void show_coordinates(float x, float y);
   void hide_frame();
   void empty_surface();
@@ -318,6 +413,32 @@ class frmFunc final : public Window {
   void show_progress(double k);
   void finish_plot();
   void add_to_recent();
+
+  // Label.
+  void Command3_Click();
+  void cmdLabel_Click();
+  void cmdTextCancel_Click();
+  void cmdFont_Click();
+  void cmdBoja_Click();
+  void Text2_Change();
+  void txtAngle_Change();
+  void picMCRBox_MouseDown(int Button, int Shift, float X, float Y);
+  void picMCRBox_MouseMove(int Button, int Shift, float X, float Y);
+  [[nodiscard]] Text proposed_label() const;
+  void show_label_box();
+  void keep_label_box_in_bounds();
+
+  // Colours, tangents and output.
+  void Command4_MouseDown(int Button, int Shift, float X, float Y);
+  void Command5_MouseDown(int Button, int Shift, float X, float Y);
+  void take_chosen_color(std::int32_t target);
+  void redraw_grid();
+  void store_colors();
+  bool show_tangent(float x);
+  void place_tangent();
+  void cmdtangenta_Click();
+  void ask_for_tangent();
+  void ask_for_bitmap();
 
   // Commands without a place on the window.
   void cmdEval_Click();

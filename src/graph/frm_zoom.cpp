@@ -12,10 +12,13 @@ frmZoom::frmZoom(Workbench& bench) : Window{bench, class_name} {
   lay_out();
   connect_file_menu();
   connect_edit_menu();
+  connect_color_menu();
+  connect_help_menu();
   connect_zoom_menus();
   connect_examples_menu();
   connect_copy_popup();
-  mnuhelpt.Click.handle([this] { show_program_help(workbench().desk()); });
+  connect_paste_popup();
+  connect_label_popup();
 }
 
 void frmZoom::lay_out() {

@@ -125,10 +125,17 @@ class frmZoom final : public Window {
   void lay_out();
   void connect_file_menu();
   void connect_edit_menu();
+  void connect_color_menu();
+  void connect_help_menu();
   void connect_zoom_menus();
   void connect_examples_menu();
   void connect_copy_popup();
+  void connect_paste_popup();
+  void connect_label_popup();
 
+  [[nodiscard]] bool may_erase();
+  void close_for_complex_mode();
+  void show_value_table();
   void mnuRecent_Click(int Index);
 
   void choose_zoom(TextView factor);

@@ -54,9 +54,10 @@ void frmFunc::lay_out() {
   lblosa.BackColor.start_as(0);
   lay_out_keypad();
   lay_out_frame();
+  lay_out_label();
 }
 
-void frmFunc::lay_out_keypad() {
+void frmFunc::lay_out_keypad() const {
   for (int i = 0; i < cmdSymbol.size(); ++i) {
     const Key& key = keypad.at(static_cast<std::size_t>(i));
     cmdSymbol(i).Caption.start_as(Text{key.caption});
@@ -80,6 +81,12 @@ void frmFunc::lay_out_frame() {
   place(Line5, right, 0, right, bottom);
   place(Line6, 0, bottom, right, bottom);
   place(Line4, 0, 0, 0, bottom);
+}
+
+void frmFunc::lay_out_label() {
+  frmText.Visible.start_as(false);
+  picMCRBox.Visible.start_as(false);
+  Check1.Value.start_as(1);
 }
 
 }  // namespace tarnmill

@@ -5,6 +5,11 @@
 #include "graph/grid.h"
 
 namespace tarnmill {
+namespace {
+
+constexpr int right_button = 2;
+
+}  // namespace
 
 Plane frmFunc::plane() { return {OriginX, OriginY, PixelsPerUnit->to_number(regional())}; }
 
@@ -38,13 +43,23 @@ void frmFunc::hide_frame() {
   for (OverlayLine* line : {&Line3, &Line4, &Line5, &Line6}) line->Visible = false;
 }
 
-void frmFunc::pDraw_MouseMove(int /*Button*/, int /*Shift*/, float X, float Y) {
+void frmFunc::pDraw_MouseDown(int Button, int Shift, float X, float Y) {
+  if (Button == right_button) pDraw_MouseMove(Button, Shift, X, Y);
+}
+
+/// The readout keeps what it shows when something fails.
+void frmFunc::pDraw_MouseMove(int Button, int /*Shift*/, float X, float Y) {
   if (Drawing) return;
-  try {
+  resume_step([&] {
+    const bool wants_tangent = Button == right_button && GraphDrawn;
+    if (wants_tangent && !show_tangent(X)) return;
     show_coordinates(X, Y);
-  } catch (const Fault&) {
-    // The readout keeps what it shows.
-  }
+  });
+}
+
+void frmFunc::pDraw_MouseUp(int /*Button*/, int /*Shift*/, float /*X*/, float /*Y*/) {
+  Line1.Visible = false;
+  Line2.Visible = false;
 }
 
 /// The point of the plane under a pixel, at the zoom that `lblzm` names.

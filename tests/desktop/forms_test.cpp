@@ -56,7 +56,7 @@ TEST_P(FormOf, WhatTakesTheMouseOrTheFocusIsSpokenByName) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, FormOf, ::testing::Values("Form1", "frmFunc"));
+INSTANTIATE_TEST_SUITE_P(Windows, FormOf, ::testing::Values("Form1", "frmFunc", "frmunesit"));
 
 }  // namespace
 }  // namespace tarnmill::desktop

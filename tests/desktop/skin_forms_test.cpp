@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QMap>
 #include <QSet>
 
 #include "desktop/skin/ground.h"
 #include "desktop/skin/key.h"
 #include "ui_Form1.h"
 #include "ui_frmFunc.h"
+#include "ui_frmunesit.h"
 
 namespace tarnmill::desktop {
 namespace {
@@ -159,6 +161,17 @@ TEST(GrapherForm, KeypadAndToolsStepEvenly) {
   }
 }
 
+TEST(GrapherForm, TheLabelFrameLiesOverThePlot) {
+  const Built<Ui::frmFunc> built;
+  EXPECT_EQ(built["frmText"]->geometry().adjusted(8, 8, -8, -8), QRect(204, 156, 320, 198));
+  const Placed rows[] = {{"Text2", {22, 48, 292, 32}},     {"Label2", {22, 92, 118, 28}},
+                         {"txtAngle", {146, 92, 66, 28}},  {"VsbPtrnNo", {216, 92, 22, 28}},
+                         {"LabCUL", {250, 92, 64, 28}},    {"Check1", {20, 132, 116, 22}},
+                         {"cmdFont", {146, 129, 62, 29}},  {"cmdBoja", {214, 129, 100, 29}},
+                         {"cmdLabel", {146, 167, 80, 31}}, {"cmdTextCancel", {234, 167, 80, 31}}};
+  expect_places(built, rows);
+}
+
 TEST(GrapherForm, KeysThatOpenAMenuCarryAChevron) {
   const Built<Ui::frmFunc> built;
   QSet<QString> marked;
@@ -173,21 +186,23 @@ TEST(GrapherForm, KeysThatOpenAMenuCarryAChevron) {
 template <class Form>
 void expect_sound_keys() {
   const Built<Form> built;
-  int orange = 0;
+  // A frame counts as a window of its own.
+  QMap<const QWidget*, int> orange;
   for (const Key* key : built.window.template findChildren<Key*>()) {
-    EXPECT_TRUE(built.window.rect().contains(key->geometry())) << key->objectName().toStdString();
+    EXPECT_TRUE(key->parentWidget()->rect().contains(key->geometry())) << key->objectName().toStdString();
     const QString spoken = key->accessibleName().isEmpty() ? key->text() : key->accessibleName();
     EXPECT_FALSE(spoken.isEmpty()) << key->objectName().toStdString();
     EXPECT_TRUE(key->icon_name().isEmpty() || icon_names().contains(key->icon_name()))
         << key->icon_name().toStdString();
-    orange += key->role() == KeyRole::accent || key->role() == KeyRole::primary ? 1 : 0;
+    orange[key->parentWidget()] += key->role() == KeyRole::accent || key->role() == KeyRole::primary ? 1 : 0;
   }
-  EXPECT_EQ(orange, 1);
+  for (const int each : orange) EXPECT_EQ(each, 1);
 }
 
 TEST(Forms, KeysLieWithinTheirWindowAndHaveANameOneOfThemOrange) {
   expect_sound_keys<Ui::Form1>();
   expect_sound_keys<Ui::frmFunc>();
+  expect_sound_keys<Ui::frmunesit>();
 }
 
 }  // namespace

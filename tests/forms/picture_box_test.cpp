@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/files.h"
 #include "forms/sample_window.h"
 #include "support/test_program.h"
 
@@ -117,6 +118,43 @@ TEST_F(PictureBoxTest, PrintedTextLeavesTheCurrentPointAtTheNextLine) {
   surface.Print(u"a");
   EXPECT_EQ(surface.CurrentX, 0);
   EXPECT_EQ(surface.CurrentY, 5 + surface.TextHeight(u"a"));
+}
+
+TEST_F(PictureBoxTest, TheSameBackColourErasesAsWell) {
+  surface.Line(0, 0, 39, 29, red);
+  surface.Record(true);
+  surface.BackColor = back;
+  EXPECT_EQ(surface.Point(0, 0), back);
+  EXPECT_EQ(surface.Ops().size(), 1U);
+}
+
+TEST_F(PictureBoxTest, ASurfaceInTwipsCountsFifteenToThePixel) {
+  PictureBox box{window, "box", 40, 30, back, SurfaceUnit::twip};
+  EXPECT_EQ(box.ScaleWidth(), 600);
+  EXPECT_EQ(box.ScaleHeight(), 450);
+  EXPECT_EQ(box.TextWidth(u"Eg"), 15 * surface.TextWidth(u"Eg"));
+  EXPECT_EQ(box.TextHeight(u"Eg"), 15 * surface.TextHeight(u"Eg"));
+  box.Line(75, 30, 150, 30, red);
+  EXPECT_EQ(box.Point(5, 2), red);
+  EXPECT_EQ(box.Point(10, 2), red);
+  EXPECT_EQ(box.Point(11, 2), back);
+  EXPECT_EQ(box.CurrentX, 150);
+}
+
+TEST_F(PictureBoxTest, ANewSizeMakesAnEmptyRasterOfThatSize) {
+  surface.Line(0, 0, 39, 29, red);
+  surface.Width = 900;
+  EXPECT_EQ(surface.ScaleWidth(), 60);
+  surface.Height = 307;
+  EXPECT_EQ(surface.ScaleHeight(), 20);
+  EXPECT_EQ(surface.Point(0, 0), back);
+  EXPECT_EQ(surface.Point(59, 19), back);
+}
+
+TEST_F(PictureBoxTest, ABitmapIsWrittenUnderAnyName) {
+  const auto path = program.folder() / "picture.png";
+  ASSERT_TRUE(surface.raster().save_bitmap(path));
+  EXPECT_TRUE(read_file(path).starts_with("BM"));
 }
 
 }  // namespace

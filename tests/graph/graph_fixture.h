@@ -12,6 +12,7 @@
 #include "forms/files.h"
 #include "graph/frm_func.h"
 #include "graph/frm_zoom.h"
+#include "support/message_expectation.h"
 #include "support/test_program.h"
 
 namespace tarnmill {
@@ -70,6 +71,11 @@ class GraphTest : public testing::Test {
   [[nodiscard]] DialogShown only_dialog() {
     EXPECT_EQ(program.desk.dialogs().size(), 1U);
     return program.desk.dialogs().empty() ? DialogShown{} : program.desk.dialogs().front();
+  }
+
+  void expect_message(const Text& text, MessageIcon icon = MessageIcon::none, const Text& title = u"Tarnmill",
+                      MessageButtons buttons = MessageButtons::ok, int default_button = 1) {
+    expect_one_message(program.desk, text, icon, title, buttons, default_button);
   }
 
   /// Does something once, at the first turn that a plot gives the event loop.

@@ -1,6 +1,8 @@
 #include <algorithm>
 
 #include "graph_fixture.h"
+#include "keypad/frm_tast.h"
+#include "table/frm_tabela.h"
 
 namespace tarnmill {
 namespace {
@@ -107,6 +109,48 @@ TEST_F(MenusTest, OpenOnlyHidesTheGraph) {
   menus().mnuopenonly.press();
   EXPECT_TRUE(program.bench.is_visible("Form1"));
   EXPECT_FALSE(form().Visible);
+}
+
+TEST_F(MenusTest, ComplexModeIsAskedForFirst) {
+  form().Show();
+  menus().mnucomp.press();
+  expect_message(u"This will close Graph Mode. Continue?", MessageIcon::question, u"Tarnmill",
+                 MessageButtons::ok_cancel);
+  EXPECT_TRUE(form().Visible);
+  EXPECT_FALSE(program.bench.is_visible("frmComplex"));
+  program.desk.answer(MessageResult::ok);
+  menus().mnucomp.press();
+  EXPECT_FALSE(form().Visible);
+  EXPECT_TRUE(program.bench.is_visible("frmComplex"));
+}
+
+TEST_F(MenusTest, TheValueTableTakesTheFunctionAlong) {
+  form().txtY.Text = u"K^2";
+  menus().mnytable.press();
+  EXPECT_TRUE(program.bench.is_visible("frmTabela"));
+  EXPECT_EQ(program.window<frmTabela>().Text1.Text.get(), u"K^2");
+}
+
+TEST_F(MenusTest, TheCalculusWindowOpens) {
+  menus().muiida.press();
+  EXPECT_TRUE(program.bench.is_visible("frmIntegral"));
+}
+
+TEST_F(MenusTest, OnlineOpensThePageOfTheProduct) {
+  menus().mnuonline.press();
+  EXPECT_EQ(program.desk.opened(), std::vector<Text>{u"https://tarnmill.example/"});
+}
+
+TEST_F(MenusTest, PastePutsTheClipboardIntoTheSelection) {
+  auto& keypad = program.window<frmTast>();
+  program.desk.set_clipboard_text(u"12");
+  for (TextBox* field : {&keypad.Text1, &keypad.Text2}) {
+    field->Text = u"abc";
+    field->select(1, 1);
+    (field == &keypad.Text1 ? menus().mnupasteex : menus().mnupastearg).press();
+    EXPECT_EQ(field->Text.get(), u"a12c");
+    EXPECT_EQ(program.bench.focus(), field);
+  }
 }
 
 TEST_F(MenusTest, ExitEndsTheProgram) {

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "support/message_expectation.h"
 #include "support/test_program.h"
 
 namespace tarnmill {
@@ -27,14 +28,7 @@ class WindowTest : public testing::Test {
   /// The one message shown since the last call; fails when there is none or more.
   void expect_message(const Text& text, MessageIcon icon = MessageIcon::none, const Text& title = u"Tarnmill",
                       MessageButtons buttons = MessageButtons::ok, int default_button = 1) {
-    ASSERT_EQ(program.desk.dialogs().size(), 1U) << to_utf8(text);
-    const DialogShown& shown = program.desk.dialogs().front();
-    EXPECT_EQ(to_utf8(shown.text), to_utf8(text));
-    EXPECT_EQ(shown.icon, icon);
-    EXPECT_EQ(to_utf8(shown.title), to_utf8(title));
-    EXPECT_EQ(shown.buttons, buttons);
-    EXPECT_EQ(shown.default_button, default_button);
-    program.desk.forget();
+    expect_one_message(program.desk, text, icon, title, buttons, default_button);
   }
   void expect_no_message() {
     EXPECT_TRUE(program.desk.dialogs().empty());

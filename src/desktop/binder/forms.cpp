@@ -12,6 +12,7 @@
 #include "ui_frmIntegral.h"
 #include "ui_frmTabela.h"
 #include "ui_frmTast.h"
+#include "ui_frmunesit.h"
 
 namespace tarnmill::desktop {
 
@@ -36,6 +37,7 @@ const std::map<std::string_view, Builder>& builders() {
       {"frmComplex", build<Ui::frmComplex>}, {"frmTast", build<Ui::frmTast>},
       {"frmAnaliza", build<Ui::frmAnaliza>}, {"frmIntegral", build<Ui::frmIntegral>},
       {"frmTabela", build<Ui::frmTabela>},   {"frmFunc", build<Ui::frmFunc>},
+      {"frmunesit", build<Ui::frmunesit>},
   };
   return known;
 }

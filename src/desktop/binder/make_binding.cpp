@@ -7,6 +7,7 @@
 #include "desktop/binder/rich_text_binding.h"
 #include "desktop/binder/surface_binding.h"
 #include "desktop/binder/text_bindings.h"
+#include "desktop/binder/up_down_binding.h"
 #include "forms/check_box.h"
 #include "forms/option_button.h"
 
@@ -58,6 +59,8 @@ Binding* make_binding(Control& control, QWidget& widget, WindowView& view) {
     special = new ToolbarBinding{*tools, widget, view};
   } else if (auto* status = dynamic_cast<StatusBar*>(&control)) {
     special = new StatusBarBinding{*status, widget, view};
+  } else if (auto* arrows = dynamic_cast<UpDown*>(&control)) {
+    if (auto* stepper = qobject_cast<Stepper*>(&widget)) special = new UpDownBinding{*arrows, *stepper, view};
   } else if (auto* surface = dynamic_cast<PictureBox*>(&control)) {
     auto* shown = qobject_cast<SurfaceView*>(&widget);
     if (shown != nullptr) special = new SurfaceBinding{*surface, *shown, view};

@@ -6,7 +6,7 @@
 
 namespace tarnmill::desktop {
 
-/// A drawing surface on its view. The mouse on it counts in pixels.
+/// A drawing surface on its view. The mouse on it counts in the surface's unit.
 class SurfaceBinding final : public Binding {
  public:
   SurfaceBinding(PictureBox& surface, SurfaceView& view_of_it, WindowView& view);
@@ -16,7 +16,7 @@ class SurfaceBinding final : public Binding {
 
  protected:
   void show_property(std::string_view name) override;
-  [[nodiscard]] float mouse_scale() const override { return 1; }
+  [[nodiscard]] float mouse_scale() const override { return surface_.units_per_pixel(); }
   [[nodiscard]] bool uses_mouse() const override { return false; }
 
  private:

@@ -8,6 +8,8 @@
 
 #include "desktop/skin/key.h"
 #include "desktop/skin/key_face.h"
+#include "desktop/skin/palette.h"
+#include "desktop/skin/panel.h"
 
 namespace tarnmill::desktop {
 
@@ -25,6 +27,8 @@ QRect in_window(const QWidget* widget) {
 bool casts_shadow(const Key& key) {
   return key.isVisible() && !is_flat(key.role()) && !key_look(key.role(), key.is_chosen()).outlined;
 }
+
+bool stands_on_panel(const Key& key) { return qobject_cast<const Panel*>(key.parentWidget()) != nullptr; }
 
 }  // namespace
 
@@ -91,7 +95,7 @@ void Overlay::paint_ring(QPainter& painter) const {
   // A flat key stands close to its neighbours, so its ring lies within it.
   const double out = is_flat(key->role()) ? -kRingWidth / 2 : kRingDistance;
   const double radius = is_flat(key->role()) ? 4 : corner_radius(key->height()) + kRingDistance;
-  painter.setPen(QPen(ring_colour_, kRingWidth));
+  painter.setPen(QPen(stands_on_panel(*key) ? palette::focus_on_light : ring_colour_, kRingWidth));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(in_window(key)).adjusted(-out, -out, out, out), radius, radius);
 }

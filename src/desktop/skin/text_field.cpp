@@ -1,5 +1,6 @@
 #include "desktop/skin/text_field.h"
 
+#include <QFocusEvent>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <cmath>
@@ -35,6 +36,14 @@ void TextField::paintEvent(QPaintEvent* event) {
   painter.setFont(caption_font(kPrefixSize));
   painter.setPen(palette::display_dim);
   painter.drawText(rect().adjusted(kInset, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, prefix_);
+}
+
+void TextField::focusInEvent(QFocusEvent* event) {
+  const Qt::FocusReason reason = event->reason();
+  const bool would_select =
+      reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+  QFocusEvent plain(QEvent::FocusIn, would_select ? Qt::OtherFocusReason : reason);
+  QLineEdit::focusInEvent(&plain);
 }
 
 }  // namespace tarnmill::desktop

@@ -19,6 +19,8 @@ class TextField : public QLineEdit {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  /// Keeps the selection, however the focus comes: what is keyed goes to where the program left it.
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   QString prefix_;
