@@ -1,4 +1,4 @@
-# What `cmake --install` puts where: both programs, and the core as the CMake package `tarnmill`.
+# What `cmake --install` puts where: both programs with their help file, and the core as the CMake package `tarnmill`.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -8,6 +8,10 @@ foreach(program IN ITEMS tarnmill tarnmill-script)
     install(TARGETS ${program} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT programs)
   endif()
 endforeach()
+
+if(TARNMILL_CHMCMD)
+  install(FILES "${help_result}" DESTINATION share/tarnmill COMPONENT programs)
+endif()
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/tarnmill")
 set_target_properties(tarnmill_core PROPERTIES EXPORT_NAME core)

@@ -15,6 +15,8 @@ frmAnaliza::frmAnaliza(Workbench& bench)
       Evaluator3_{bench.random()},
       Evaluator4_{bench.random()} {
   Caption.start_as(u"Function Analize");
+  Width.start_as(9300);
+  Height.start_as(7860);
   txtroot.MultiLine.start_as(true);
   pb1.Visible.start_as(false);
   for (const char16_t* step : {u"0.001", u"0.0001", u"0.01", u"0.1", u"0.00001"}) Combo1.AddItem(step);

@@ -1,6 +1,6 @@
 #include "desktop/qt_desk.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -16,6 +16,8 @@
 #include <utility>
 
 #include "desktop/binder/view_store.h"
+#include "desktop/help/help_file.h"
+#include "desktop/help/help_window.h"
 #include "desktop/pulse.h"
 #include "desktop/qt_raster.h"
 #include "desktop/qt_rich_text.h"
@@ -47,7 +49,7 @@ QtDesk::QtDesk(std::filesystem::path folder, Views views)
   if (shows_views()) QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-QtDesk::~QtDesk() = default;
+QtDesk::~QtDesk() { delete help_.data(); }
 
 std::filesystem::path QtDesk::user_folder() {
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
@@ -78,6 +80,11 @@ const Regional& QtDesk::regional() { return regional_; }
 
 std::filesystem::path QtDesk::folder() { return folder_; }
 
+std::filesystem::path QtDesk::data_folder() {
+  const QString programs = QCoreApplication::applicationDirPath();
+  return std::filesystem::path{QFile::encodeName(programs).toStdString()} / ".." / "share" / "tarnmill";
+}
+
 Text QtDesk::program_name() { return u"tarnmill"; }
 
 SettingsStore& QtDesk::settings() { return *settings_; }
@@ -91,7 +98,18 @@ std::unique_ptr<RichText> QtDesk::make_rich_text() { return std::make_unique<des
 void QtDesk::open_address(const Text& address) { QDesktopServices::openUrl(QUrl{desktop::to_qt(address)}); }
 
 bool QtDesk::show_help(const std::filesystem::path& file, std::int32_t /*topic*/) {
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(file_name(file)));
+  // The pages of this file have no numbers.
+  auto opened = desktop::HelpFile::open(file);
+  if (!opened) return false;
+  delete help_.data();
+  help_ = new desktop::HelpWindow{std::move(opened)};
+  // A window that holds back the others lets only its own children be used.
+  help_->setParent(QApplication::activeModalWidget(), Qt::Window);
+  help_->show_default_page();
+  if (!shows_views()) return true;
+  help_->show();
+  help_->activateWindow();
+  return true;
 }
 
 bool QtDesk::previous_instance() {

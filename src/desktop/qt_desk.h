@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@ class QWidget;
 namespace tarnmill {
 
 namespace desktop {
+class HelpWindow;
 class Pulse;
 class SettingsFile;
 class ViewStore;
@@ -62,6 +64,8 @@ class QtDesk : public Desk {
   [[nodiscard]] const Regional& regional() override;
 
   [[nodiscard]] std::filesystem::path folder() override;
+  /// `share/tarnmill` beside the folder of the program's executable, installed or built.
+  [[nodiscard]] std::filesystem::path data_folder() override;
   [[nodiscard]] Text program_name() override;
   [[nodiscard]] SettingsStore& settings() override;
 
@@ -108,6 +112,7 @@ class QtDesk : public Desk {
   std::unique_ptr<QLockFile> lock_;
   std::unique_ptr<desktop::Pulse> pulse_;
   std::unique_ptr<desktop::ViewStore> store_;
+  QPointer<desktop::HelpWindow> help_;
 };
 
 }  // namespace tarnmill

@@ -52,7 +52,10 @@ void frmTast::copy_hint_of_graph() {
   lblY3.Caption = graph.lblY3.Caption;
 }
 
-void frmTast::Form_Activate() { Text1.Text = workbench().window<frmFunc>().txtY.Text; }
+void frmTast::Form_Activate() {
+  Text1.Text = workbench().window<frmFunc>().txtY.Text;
+  Text1.SetFocus();
+}
 
 void frmTast::Form_Unload() {
   for (const char* mode : {"frmFunc", "Form1", "frmComplex"}) {

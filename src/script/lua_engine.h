@@ -12,6 +12,8 @@ void set_conversion_globals(lua_State* state);
 void set_evaluator_global(lua_State* state);
 /// `Veldrite.Evaluator()`.
 void set_service_global(lua_State* state);
+/// `Complex`.
+void set_complex_global(lua_State* state);
 /// `Rewriting`.
 void set_rewriting_global(lua_State* state);
 /// GetRegistrySetting and SaveRegistrySetting.

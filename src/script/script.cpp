@@ -40,6 +40,7 @@ void open_libraries(lua_State* state) {
   set_conversion_globals(state);
   set_evaluator_global(state);
   set_service_global(state);
+  set_complex_global(state);
   set_rewriting_global(state);
   set_settings_globals(state);
   register_controls(state);

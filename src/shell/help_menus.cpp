@@ -66,9 +66,8 @@ void Help::mnuexit_Click() {
 }
 
 void Help::mnupasteev_Click() {
-  if (const Window* present = bench().find_window(keypad)) {
-    present->find_control("Text1")->find_property("SelText")->write(bench().desk().clipboard_text());
-  }
+  bench().window(keypad).find_control("Text1")->find_property("SelText")->write(
+      bench().desk().clipboard_text());
 }
 
 void Help::mnuexev_Click() {
@@ -92,9 +91,7 @@ void Help::leaves_keypad(MenuItem& entry, std::string_view to) {
 }
 
 void Help::asks_keypad(MenuItem& entry, std::string_view procedure) {
-  entry.Click.handle([this, procedure] {
-    if (const Window* present = bench().find_window(keypad)) (*present->find_procedure(procedure))({});
-  });
+  entry.Click.handle([this, procedure] { (*bench().window(keypad).find_procedure(procedure))({}); });
 }
 
 void Help::shows_help(MenuItem& entry) {

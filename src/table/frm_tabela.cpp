@@ -11,6 +11,8 @@ namespace tarnmill {
 
 frmTabela::frmTabela(Workbench& bench) : Window{bench, class_name}, Evaluator1_{bench.random()} {
   Caption.start_as(u"Value Table");
+  Width.start_as(6900);
+  Height.start_as(7800);
   for (const char16_t* step : {u"1", u"10", u"0.1", u"0.01", u"0.001"}) Combo1.AddItem(step);
   for (int decimals = 0; decimals <= 10; ++decimals) txtDec.AddItem(NumberToText(decimals, Regional{}));
   connect_title_bar(Label16, Image5, Image6);

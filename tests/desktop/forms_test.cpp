@@ -56,7 +56,9 @@ TEST_P(FormOf, WhatTakesTheMouseOrTheFocusIsSpokenByName) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, FormOf, ::testing::Values("Form1", "frmFunc", "frmunesit"));
+INSTANTIATE_TEST_SUITE_P(Windows, FormOf,
+                         ::testing::Values("Form1", "frmFunc", "frmComplex", "frmTast", "frmAbout",
+                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmunesit"));
 
 }  // namespace
 }  // namespace tarnmill::desktop

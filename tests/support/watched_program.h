@@ -29,6 +29,8 @@ class WatchedDesk final : public QtDesk {
   bool previous_instance() override { return runs_already; }
   /// A decimal point, whatever the machine's own setting is.
   [[nodiscard]] const Regional& regional() override { return point_; }
+  /// Empty at first, unlike that of the program.
+  [[nodiscard]] std::filesystem::path data_folder() override { return folder(); }
   void start_move(Window& window) override;
   MenuItem* popup(Window& window, MenuItem& menu, std::optional<std::pair<int, int>> at) override;
   bool show_help(const std::filesystem::path& file, std::int32_t topic) override;

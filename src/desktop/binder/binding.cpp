@@ -73,8 +73,9 @@ void Binding::show_property(std::string_view name) {
     show_geometry(name);
   }
   if (name == "ToolTipText" || name == "Caption") {
+    // A form keeps its own name for a key whose tooltip is that of another as well.
     const Text spoken = control_->accessible_name();
-    if (!spoken.empty()) widget_.setAccessibleName(to_qt(spoken));
+    if (!spoken.empty() && !widget_.property("keepsName").toBool()) widget_.setAccessibleName(to_qt(spoken));
   }
 }
 
@@ -137,6 +138,8 @@ bool Binding::mouse_event(QMouseEvent& event) {
   const bool clicked = event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton &&
                        std::exchange(pressed_, false) && widget_.rect().contains(event.position().toPoint());
   if (clicked && !uses_mouse()) enter([this] { control_->press(); });
+  // The release of such a press goes to the menu, so the widget would stay pressed.
+  if (event.type() == QEvent::MouseButtonPress && opens_a_menu()) return true;
   return !uses_mouse() || control_ == nullptr;
 }
 
@@ -172,7 +175,7 @@ bool Binding::key_event(QKeyEvent& event) {
     (down ? control_->KeyDown : control_->KeyUp).raise(left, shift);
   });
   if (left == 0 || control_ == nullptr) return true;
-  if (down && view_.answer_help_key(left)) return true;
+  if (down && view_.answer_key(left, shift)) return true;
   if (left == code) return false;
   QKeyEvent other{event.type(), key_of(left), event.modifiers()};
   replacing_key_ = true;

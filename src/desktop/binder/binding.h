@@ -53,6 +53,8 @@ class Binding : public QObject {
   /// Whether a press of the mouse on the widget is the widget's own as well: that of buttons, fields and
   /// lists.
   [[nodiscard]] virtual bool uses_mouse() const { return true; }
+  /// Whether the press of the mouse opens a menu.
+  [[nodiscard]] virtual bool opens_a_menu() const { return false; }
   /// Twips for a pixel in what the mouse tells.
   [[nodiscard]] virtual float mouse_scale() const { return 15; }
   /// The widget that the mouse's events come to.

@@ -19,7 +19,7 @@ class FaceBinding : public Binding {
   [[nodiscard]] QAbstractButton& button() const { return button_; }
 
  private:
-  [[nodiscard]] bool opens_a_menu() const;
+  [[nodiscard]] bool opens_a_menu() const override;
 
   QAbstractButton& button_;
   bool takes_focus_;

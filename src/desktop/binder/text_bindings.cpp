@@ -1,5 +1,6 @@
 #include "desktop/binder/text_bindings.h"
 
+#include <QEvent>
 #include <QTextCursor>
 
 #include "desktop/qt_text.h"
@@ -55,8 +56,27 @@ void LineBinding::start() {
   if (line_.isReadOnly() && line_.height() > 1) line_.setReadOnly(false);
   TextBinding::start();
   connect(&line_, &QLineEdit::textEdited, this, [this] { take_text(); });
-  connect(&line_, &QLineEdit::selectionChanged, this, [this] { take_selection(); });
+  connect(&line_, &QLineEdit::selectionChanged, this, [this] {
+    if (!loses_focus_) take_selection();
+  });
   connect(&line_, &QLineEdit::cursorPositionChanged, this, [this] { take_selection(); });
+}
+
+bool LineBinding::eventFilter(QObject* watched, QEvent* event) {
+  const bool taken = Binding::eventFilter(watched, event);
+  if (event->type() == QEvent::FocusOut && control() != nullptr) {
+    // A line of the toolkit drops its selection with the focus. That of the program stays, for the key that
+    // takes the focus may be about to work with it.
+    loses_focus_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          loses_focus_ = false;
+          if (control() != nullptr) change_widget([this] { show_all(); });
+        },
+        Qt::QueuedConnection);
+  }
+  return taken;
 }
 
 Text LineBinding::shown_text() const { return from_qt(line_.text()); }

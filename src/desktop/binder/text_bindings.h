@@ -28,6 +28,8 @@ class TextBinding : public Binding {
   void take_text();
   /// The widget's caret or selection has.
   void take_selection();
+  /// Gives the widget the program's text and selection.
+  void show_all();
 
   /// \name The widget's text and selection, in the program's text and positions
   ///@{
@@ -39,7 +41,6 @@ class TextBinding : public Binding {
   ///@}
 
  private:
-  void show_all();
   void show_font();
 
   TextBox& box_;
@@ -52,6 +53,9 @@ class LineBinding final : public TextBinding {
   LineBinding(TextBox& box, QLineEdit& line, WindowView& view);
   void start() override;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   [[nodiscard]] Text shown_text() const override;
   void show_text(const Text& text) override;
@@ -60,6 +64,8 @@ class LineBinding final : public TextBinding {
   [[nodiscard]] int shown_caret() const override;
 
   QLineEdit& line_;
+  /// Whether the focus is on its way to another widget.
+  bool loses_focus_ = false;
 };
 
 /// A text box of several lines. The program counts the CR LF of a line break as two positions, the widget as

@@ -104,14 +104,25 @@ bool WindowView::key_event(const QKeyEvent& event) {
   const int shift = shift_state(event.modifiers());
   const bool down = event.type() == QEvent::KeyPress;
   enter([&] { (down ? window_->KeyDown : window_->KeyUp).raise(code, shift); });
-  return code == 0 || (down && answer_help_key(code));
+  return code == 0 || (down && answer_key(code, shift));
 }
 
-bool WindowView::answer_help_key(int code) {
+bool WindowView::answer_key(int code, int shift) {
+  constexpr int menu_key = 93;
   constexpr int key_f1 = 112;
-  if (code != key_f1 || window_ == nullptr) return false;
-  enter([this] { show_program_help(window_->bench().desk()); });
-  return true;
+  constexpr int key_f10 = 121;
+  constexpr int with_shift = 1;
+  constexpr int right_button = 2;
+  if (window_ == nullptr) return false;
+  if (code == key_f1) {
+    enter([this] { show_program_help(window_->bench().desk()); });
+    return true;
+  }
+  if (code == menu_key || (code == key_f10 && shift == with_shift)) {
+    enter([this] { window_->MouseDown.raise(right_button, 0, 0, 0); });
+    return true;
+  }
+  return false;
 }
 
 bool WindowView::drag_event(const QEvent& event) {

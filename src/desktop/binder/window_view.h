@@ -45,8 +45,9 @@ class WindowView : public QObject {
   /// Lets the window move with the mouse until its button is up.
   void start_move();
   void set_on_top(bool on_top);
-  /// Opens the help when `code` is that of F1, in every window; true when it was.
-  bool answer_help_key(int code);
+  /// Does what keys do in every window: F1 opens the help, and the menu key, or Shift+F10, the menu that the
+  /// right button opens on the window. True when the key was one of these.
+  bool answer_key(int code, int shift);
   /// Holds back the other windows until this one is hidden or gone.
   void run_modal();
   /// Runs what a person did as one entry into the program.

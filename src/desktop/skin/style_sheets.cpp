@@ -69,10 +69,10 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 
 QString list_rules() {
   return R"(
-QListView { background: @paper; border: 1px solid @bone-line; border-radius: 5px; padding: 3px; color: @ink; outline: 0; }
-QListView:focus { border: 2px solid @focus-light; padding: 2px; }
-QListView::item { height: 22px; padding-left: 6px; border-radius: 3px; }
-QListView::item:selected { background: @selected; color: @selected-text; }
+QListView, QTreeView { background: @paper; border: 1px solid @bone-line; border-radius: 5px; padding: 3px; color: @ink; outline: 0; }
+QListView:focus, QTreeView:focus { border: 2px solid @focus-light; padding: 2px; }
+QListView::item, QTreeView::item { height: 22px; padding-left: 6px; border-radius: 3px; }
+QListView::item:selected, QTreeView::item:selected { background: @selected; color: @selected-text; }
 QComboBox QAbstractItemView { background: @paper; border: 1px solid @bone-line; color: @ink; outline: 0;
   selection-background-color: @selected; selection-color: @selected-text; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { background: transparent; border: 0; padding: 0 8px; }
@@ -84,6 +84,9 @@ QString log_rules() {
 QPlainTextEdit[field="green"], QTextEdit[field="green"] { background: @display; color: @display-ink;
   border: 1px solid @green-line; border-radius: 5px; padding: 6px; %1 font-size: 12px; }
 QPlainTextEdit[field="green"]:focus, QTextEdit[field="green"]:focus { border: 2px solid @focus-light; padding: 5px; }
+QTextBrowser { background: @paper; color: @ink; border: 1px solid @bone-line; border-radius: 5px; padding: 1px;
+  selection-background-color: @selected; selection-color: @selected-text; }
+QTextBrowser:focus { border: 2px solid @focus-light; padding: 0; }
 )")
       .arg(kNumbers);
 }
@@ -117,6 +120,7 @@ QLabel[field="green"] { background: @display; border: 1px solid @green-line; bor
 )";
   // Dialogs of the toolkit stand on bone over every window.
   return coloured(label + field_rules("QLineEdit", "@display", "@green-line", "@focus-dark") +
+                  "QLineEdit:disabled { background: @display-off; color: @display-faded; }" +
                   field_rules("QDialog QLineEdit", "@paper", "@bone-line", "@focus-light") + list_rules() +
                   scroll_bar_rules());
 }
