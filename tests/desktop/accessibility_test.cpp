@@ -165,8 +165,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, MenuKey,
                                            MenuKeyRow{"frmTast", "mnueval"}));
 
 INSTANTIATE_TEST_SUITE_P(Windows, Accessibility,
-                         ::testing::Values("Form1", "frmComplex", "frmTast", "frmFunc", "frmAnaliza",
-                                           "frmIntegral", "frmTabela", "frmAbout"));
+                         ::testing::Values("Form1", "frmComplex", "frmTast", "frmFunc", "frmunesit",
+                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmAbout"));
 
 }  // namespace
 }  // namespace tarnmill::desktop

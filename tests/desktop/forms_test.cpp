@@ -57,8 +57,8 @@ TEST_P(FormOf, WhatTakesTheMouseOrTheFocusIsSpokenByName) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, FormOf,
-                         ::testing::Values("Form1", "frmFunc", "frmComplex", "frmTast", "frmAbout",
-                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmunesit"));
+                         ::testing::Values("Form1", "frmFunc", "frmunesit", "frmComplex", "frmTast",
+                                           "frmAbout", "frmAnaliza", "frmIntegral", "frmTabela"));
 
 }  // namespace
 }  // namespace tarnmill::desktop

@@ -271,9 +271,9 @@ TEST_P(HelpKey, F1OpensTheHelp) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, HelpKey,
-                         ::testing::Values("Form1", "frmComplex", "frmTast", "frmFunc", "frmAnaliza",
-                                           "frmIntegral", "frmTabela", "frmAbout", "MathPad", "frmFind",
-                                           "frmPageSetup", "frmansi"));
+                         ::testing::Values("Form1", "frmComplex", "frmTast", "frmFunc", "frmunesit",
+                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmAbout", "MathPad",
+                                           "frmFind", "frmPageSetup", "frmansi"));
 
 }  // namespace
 }  // namespace tarnmill::desktop
