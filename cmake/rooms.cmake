@@ -41,21 +41,25 @@ if(TARNMILL_FUZZ)
 endif()
 
 include(forms)
+include(marrow)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport Svg)
 tarnmill_room_sources(desktop_sources desktop)
 file(GLOB_RECURSE desktop_resources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/desktop/*.qrc")
 tarnmill_library(tarnmill_desktop desktop_scope ${desktop_sources})
 find_library(CHM_LIBRARY chm REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(WMF REQUIRED IMPORTED_TARGET libwmf)
 target_link_libraries(tarnmill_desktop ${desktop_scope}
   tarnmill_core Qt6::Widgets Qt6::PrintSupport Qt6::Svg ${CHM_LIBRARY})
 if(desktop_sources)
+  target_link_libraries(tarnmill_desktop PRIVATE PkgConfig::WMF)
   target_sources(tarnmill_desktop PRIVATE ${desktop_resources})
   set_target_properties(tarnmill_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
   tarnmill_compile_forms(tarnmill_desktop "${PROJECT_SOURCE_DIR}/src/desktop/ui")
+  tarnmill_build_marrow(tarnmill_desktop)
 endif()
 
-find_package(PkgConfig REQUIRED)
 # The C++ build of Lua unwinds by exceptions, so an error in a script runs our destructors.
 pkg_check_modules(LUA REQUIRED IMPORTED_TARGET lua5.4-c++)
 tarnmill_room_sources(script_sources script)

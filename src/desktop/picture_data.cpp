@@ -8,6 +8,8 @@
 #include <QtEndian>
 #include <algorithm>
 
+#include "desktop/metafile.h"
+
 namespace tarnmill::desktop {
 
 namespace {
@@ -42,7 +44,7 @@ QByteArray as_file(const QByteArray& dib) {
   header[0] = 'B';
   header[1] = 'M';
   qToLittleEndian(static_cast<quint32>(dib.size() + file_header_size), header.data() + 2);
-  const quint32 info = number_at<quint32>(dib, 0);
+  const auto info = number_at<quint32>(dib, 0);
   qToLittleEndian(file_header_size + info + palette_size(dib), header.data() + 10);
   return header + dib;
 }
@@ -53,6 +55,12 @@ QImage decoded(QByteArray bytes, const char* format) {
   return QImageReader{&buffer, format}.read();
 }
 
+/// The size in pixels that a picture is shown at; 0 where the document tells none.
+QSize size_of(const rtf::Picture& picture) {
+  return {rtf::scaled(picture.width, picture.scale_x) / twips_per_pixel,
+          rtf::scaled(picture.height, picture.scale_y) / twips_per_pixel};
+}
+
 QImage decoded(const rtf::Picture& picture) {
   switch (picture.kind) {
     case rtf::PictureKind::png:
@@ -61,14 +69,17 @@ QImage decoded(const rtf::Picture& picture) {
       return decoded(bytes_of(picture), "jpeg");
     case rtf::PictureKind::dib:
       return decoded(as_file(bytes_of(picture)), "bmp");
+    case rtf::PictureKind::wmf:
+      return play_metafile(bytes_of(picture), size_of(picture));
     default:
       return {};
   }
 }
 
-QImage frame(int width, int height) {
-  constexpr int most_pixels = 2000;
-  QImage image{std::clamp(width, 16, most_pixels), std::clamp(height, 16, most_pixels), QImage::Format_RGB32};
+QImage frame(QSize size) {
+  constexpr QSize least{16, 16};
+  constexpr QSize most{2000, 2000};
+  QImage image{size.expandedTo(least).boundedTo(most), QImage::Format_RGB32};
   image.fill(Qt::white);
   QPainter painter{&image};
   painter.setPen(Qt::gray);
@@ -80,9 +91,7 @@ QImage frame(int width, int height) {
 
 QImage image_of(const rtf::Picture& picture) {
   QImage image = decoded(picture);
-  if (!image.isNull()) return image;
-  return frame(rtf::scaled(picture.width, picture.scale_x) / twips_per_pixel,
-               rtf::scaled(picture.height, picture.scale_y) / twips_per_pixel);
+  return image.isNull() ? frame(size_of(picture)) : image;
 }
 
 rtf::Picture picture_of(const QImage& image) {
@@ -98,15 +107,19 @@ rtf::Picture picture_of(const QImage& image) {
 }
 
 QImage load_image(const std::filesystem::path& path) {
-  QImageReader reader{QFile::decodeName(path.c_str())};
+  QFile file{QFile::decodeName(path.c_str())};
+  if (!file.open(QIODevice::ReadOnly)) return {};
   // What a file is shows in it, not in its name.
+  QImageReader reader{&file};
   reader.setDecideFormatFromContent(true);
-  return reader.read();
+  QImage image = reader.read();
+  if (!image.isNull() || !file.seek(0)) return image;
+  return play_metafile(file.readAll());
 }
 
 QString keep_picture(QTextDocument& document, PictureStore& pictures, const rtf::Picture& picture,
                      const QImage& image) {
-  const QString name = QStringLiteral("picture-%1").arg(pictures.size());
+  QString name = QStringLiteral("picture-%1").arg(pictures.size());
   pictures.emplace(name, picture);
   document.addResource(QTextDocument::ImageResource, QUrl{name}, image);
   return name;

@@ -3,33 +3,66 @@
 #include <QFont>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QTextOption>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/qt_text.h"
 
 namespace tarnmill::desktop {
 
-QtRichText::QtRichText() : cursor_{&document_} {
-  document_.setUndoRedoEnabled(true);
-  QObject::connect(&document_, &QTextDocument::contentsChanged, &context_, [this] { text_changed_ = true; });
+QtRichText::QtRichText() : document_{std::make_unique<QTextDocument>()} {
+  document_ = make_document();
+  cursor_ = QTextCursor{document_.get()};
+  watch_document();
+}
+
+std::unique_ptr<QTextDocument> QtRichText::make_document() const {
+  // Half an inch, as the files say that it is.
+  constexpr double tab_pixels = 48;
+  auto made = std::make_unique<QTextDocument>();
+  made->setDefaultFont(document_->defaultFont());
+  QTextOption option = made->defaultTextOption();
+  option.setTabStopDistance(tab_pixels);
+  made->setDefaultTextOption(option);
+  return made;
+}
+
+void QtRichText::watch_document() {
+  document_->setUndoRedoEnabled(true);
+  QObject::connect(document_.get(), &QTextDocument::contentsChanged, &context_,
+                   [this] { text_changed_ = true; });
+}
+
+void QtRichText::replace_document(std::unique_ptr<QTextDocument> fresh, PictureStore pictures, bool changes) {
+  edit([&] {
+    // The one before goes when no editor shows it any longer.
+    document_.swap(fresh);
+    pictures_ = std::move(pictures);
+    cursor_ = QTextCursor{document_.get()};
+    watch_document();
+    kinds_.clear();
+    if (on_document) on_document();
+    text_changed_ = changes;
+  });
 }
 
 QtRichText::~QtRichText() = default;
 
 void QtRichText::note_kind(int kind) {
-  const auto steps = static_cast<std::size_t>(document_.availableUndoSteps());
-  const auto undone = static_cast<std::size_t>(document_.availableRedoSteps());
+  const auto steps = static_cast<std::size_t>(document_->availableUndoSteps());
+  const auto undone = static_cast<std::size_t>(document_->availableRedoSteps());
   if (text_changed_ && undone == 0 && steps > 0) kinds_.resize(steps - 1);
   kinds_.resize(steps + undone, kind);
 }
 
 int QtRichText::undo_kind() const {
-  const auto steps = static_cast<std::size_t>(document_.availableUndoSteps());
+  const auto steps = static_cast<std::size_t>(document_->availableUndoSteps());
   return steps == 0 || steps > kinds_.size() ? any_edit : kinds_[steps - 1];
 }
 
 int QtRichText::redo_kind() const {
-  const auto steps = static_cast<std::size_t>(document_.availableUndoSteps());
+  const auto steps = static_cast<std::size_t>(document_->availableUndoSteps());
   return steps >= kinds_.size() ? any_edit : kinds_[steps];
 }
 
@@ -44,13 +77,18 @@ void QtRichText::follow(const QTextCursor& cursor) {
   edit([&] { cursor_ = cursor; }, text_removed_only_ ? deleting : typing);
 }
 
-Text QtRichText::text() const { return lines_from_qt(document_.toPlainText()); }
+Text QtRichText::text() const { return lines_from_qt(document_->toPlainText()); }
 
 void QtRichText::set_text(const Text& text) {
-  refill([&] { document_.setPlainText(lines_to_qt(text)); });
+  std::unique_ptr<QTextDocument> fresh = make_document();
+  fresh->setUndoRedoEnabled(false);
+  fresh->setPlainText(lines_to_qt(text));
+  const bool changes = fresh->characterCount() != document_->characterCount() ||
+                       fresh->toPlainText() != document_->toPlainText();
+  replace_document(std::move(fresh), {}, changes);
 }
 
-int QtRichText::length() const { return document_.characterCount() - 1; }
+int QtRichText::length() const { return document_->characterCount() - 1; }
 
 int QtRichText::sel_start() const { return cursor_.selectionStart(); }
 
@@ -72,19 +110,19 @@ void QtRichText::replace_selection(const Text& text) {
 }
 
 void QtRichText::undo() {
-  edit([&] { document_.undo(&cursor_); });
+  edit([&] { document_->undo(&cursor_); });
 }
 
 void QtRichText::redo() {
-  edit([&] { document_.redo(&cursor_); });
+  edit([&] { document_->redo(&cursor_); });
 }
 
-bool QtRichText::can_undo() const { return document_.isUndoAvailable(); }
+bool QtRichText::can_undo() const { return document_->isUndoAvailable(); }
 
-bool QtRichText::can_redo() const { return document_.isRedoAvailable(); }
+bool QtRichText::can_redo() const { return document_->isRedoAvailable(); }
 
 int QtRichText::line_of(int position) const {
-  const QTextBlock block = document_.findBlock(std::clamp(position, 0, length()));
+  const QTextBlock block = document_->findBlock(std::clamp(position, 0, length()));
   const QTextLine line = block.layout()->lineForTextPosition(position - block.position());
   return block.firstLineNumber() + (line.isValid() ? line.lineNumber() : 0);
 }
@@ -100,7 +138,7 @@ int QtRichText::find(const Text& text, int start, bool whole_word, bool match_ca
   QTextDocument::FindFlags flags;
   if (whole_word) flags |= QTextDocument::FindWholeWords;
   if (match_case) flags |= QTextDocument::FindCaseSensitively;
-  const QTextCursor found = document_.find(lines_to_qt(text), std::clamp(start, 0, length()), flags);
+  const QTextCursor found = document_->find(lines_to_qt(text), std::clamp(start, 0, length()), flags);
   if (found.isNull()) return -1;
   edit([&] { cursor_ = found; });
   return sel_start();

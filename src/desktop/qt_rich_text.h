@@ -5,6 +5,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -70,16 +71,21 @@ class QtRichText final : public RichText {
   void select_line() override;
   int find(const Text& text, int start, bool whole_word, bool match_case) override;
 
-  [[nodiscard]] QTextDocument& document() { return document_; }
-  [[nodiscard]] const QTextDocument& document() const { return document_; }
+  [[nodiscard]] QTextDocument& document() { return *document_; }
+  [[nodiscard]] const QTextDocument& document() const { return *document_; }
   /// Selection and caret, for an editor.
   [[nodiscard]] const QTextCursor& cursor() const { return cursor_; }
   /// Takes the selection that a person made and raises what has changed since the last time.
   void follow(const QTextCursor& cursor);
   /// The text has changed by other hands than the program's, which `follow` is to tell.
   [[nodiscard]] bool has_untold_change() const { return text_changed_; }
+  /// What a person does who drags the selection to a position: it moves there with its formats, or is copied,
+  /// and stays selected. A place within the selection changes nothing.
+  void drag_selection(int to, bool copies);
   /// Called after the program has set a format, which an editor shows at its caret.
   std::function<void()> on_format;
+  /// Called when another document has taken the place of the one before, which an editor then shows.
+  std::function<void()> on_document;
 
  private:
   /// Runs an edit of the program's, then raises what it changed. The toolkit's own signals only mark changes,
@@ -89,13 +95,21 @@ class QtRichText final : public RichText {
   void raise_changes(int start, int length);
   /// Notes the kind of an edit that has just gone into the history.
   void note_kind(int kind);
-  /// Replaces everything; the history is forgotten.
-  template <class Fill>
-  void refill(Fill&& fill);
+  /// Puts a document in place of all that there was, its history included. A fresh one is filled before any
+  /// editor sees it, so that an editor lays out no more of it than it shows.
+  void replace_document(std::unique_ptr<QTextDocument> fresh, PictureStore pictures, bool changes);
+  /// An empty document with the default font.
+  [[nodiscard]] std::unique_ptr<QTextDocument> make_document() const;
+  void watch_document();
   void merge(const QTextCharFormat& format);
   void insert_rtf(std::string_view bytes, int kind);
   /// The parts of one format in the selection: position and length.
   [[nodiscard]] std::vector<std::pair<int, int>> selected_parts() const;
+  using FormatVisitor = std::function<bool(const QTextCharFormat&)>;
+  /// Shows the visitor the formats of the selected characters until it answers false: one by one, which is
+  /// quick for few characters wherever they stand, or by parts of one format.
+  void visit_characters(const FormatVisitor& visit) const;
+  void visit_parts(const FormatVisitor& visit) const;
   /// The value of the characters' formats in the selection, if it is the same everywhere.
   template <class Value>
   [[nodiscard]] auto common(Value&& value) const -> std::optional<decltype(value(QTextCharFormat{}))>;
@@ -104,10 +118,11 @@ class QtRichText final : public RichText {
   static constexpr int any_edit = 0;
   static constexpr int typing = 1;
   static constexpr int deleting = 2;
+  static constexpr int dragging = 3;
   static constexpr int cutting = 4;
   static constexpr int pasting = 5;
 
-  QTextDocument document_;
+  std::unique_ptr<QTextDocument> document_;
   QTextCursor cursor_;
   PictureStore pictures_;
   /// The kind of each edit of the history, those undone included.
@@ -124,19 +139,6 @@ void QtRichText::edit(Edit&& run, int kind) {
   std::forward<Edit>(run)();
   note_kind(kind);
   raise_changes(start, length);
-}
-
-template <class Fill>
-void QtRichText::refill(Fill&& fill) {
-  edit([&] {
-    document_.setUndoRedoEnabled(false);
-    document_.clear();
-    pictures_.clear();
-    std::forward<Fill>(fill)();
-    document_.setUndoRedoEnabled(true);
-    cursor_ = QTextCursor{&document_};
-  });
-  kinds_.clear();
 }
 
 }  // namespace tarnmill::desktop

@@ -30,26 +30,27 @@ const QMimeData* clipboard_content() { return QGuiApplication::clipboard()->mime
 }  // namespace
 
 void QtRichText::set_default_font(const Text& name, double size) {
-  QFont font = document_.defaultFont();
+  QFont font = document_->defaultFont();
   font.setFamily(to_qt(name));
   if (size > 0) font.setPointSizeF(size);
-  document_.setDefaultFont(font);
+  document_->setDefaultFont(font);
   text_changed_ = false;
 }
 
-std::string QtRichText::rtf() const { return rtf::write(export_rtf(document_, 0, length(), pictures_)); }
+std::string QtRichText::rtf() const { return rtf::write(export_rtf(*document_, 0, length(), pictures_)); }
 
 std::string QtRichText::sel_rtf() const {
-  return rtf::write(export_rtf(document_, cursor_.selectionStart(), cursor_.selectionEnd(), pictures_));
+  return rtf::write(export_rtf(*document_, cursor_.selectionStart(), cursor_.selectionEnd(), pictures_));
 }
 
 void QtRichText::set_rtf(std::string_view bytes) {
   const rtf::Document source = rtf::read(bytes);
-  refill([&] {
-    QTextCursor filling{&document_};
-    RtfImport{source, document_, pictures_}.insert(filling, true);
-    text_changed_ = true;
-  });
+  std::unique_ptr<QTextDocument> fresh = make_document();
+  fresh->setUndoRedoEnabled(false);
+  PictureStore pictures;
+  QTextCursor filling{fresh.get()};
+  RtfImport{source, *fresh, pictures}.insert(filling, true);
+  replace_document(std::move(fresh), std::move(pictures), true);
 }
 
 void QtRichText::replace_selection_rtf(std::string_view bytes) { insert_rtf(bytes, any_edit); }
@@ -60,7 +61,7 @@ void QtRichText::insert_rtf(std::string_view bytes, int kind) {
       [&] {
         cursor_.beginEditBlock();
         cursor_.removeSelectedText();
-        RtfImport{source, document_, pictures_}.insert(cursor_, false);
+        RtfImport{source, *document_, pictures_}.insert(cursor_, false);
         cursor_.endEditBlock();
       },
       kind);
@@ -70,7 +71,7 @@ std::vector<std::pair<int, int>> QtRichText::selected_parts() const {
   std::vector<std::pair<int, int>> parts;
   const int start = cursor_.selectionStart();
   const int end = cursor_.selectionEnd();
-  for (QTextBlock block = document_.findBlock(start); block.isValid() && block.position() < end;
+  for (QTextBlock block = document_->findBlock(start); block.isValid() && block.position() < end;
        block = block.next()) {
     for (auto each = block.begin(); !each.atEnd(); ++each) {
       const int from = std::max(start, each.fragment().position());
@@ -85,7 +86,7 @@ void QtRichText::change_selection(const std::function<Text(TextView)>& change) {
   edit([&] {
     const int start = cursor_.selectionStart();
     const int end = cursor_.selectionEnd();
-    QTextCursor part{&document_};
+    QTextCursor part{document_.get()};
     part.beginEditBlock();
     for (const auto& [from, length] : selected_parts()) {
       part.setPosition(from);
@@ -123,7 +124,7 @@ void QtRichText::paste() {
     edit(
         [&] {
           QTextImageFormat shown;
-          shown.setName(keep_picture(document_, pictures_, picture_of(image), image));
+          shown.setName(keep_picture(*document_, pictures_, picture_of(image), image));
           shown.setWidth(image.width());
           shown.setHeight(image.height());
           cursor_.insertImage(shown);
@@ -132,6 +133,26 @@ void QtRichText::paste() {
   } else {
     edit([&] { cursor_.insertText(lines_to_qt(from_qt(content->text()))); }, pasting);
   }
+}
+
+void QtRichText::drag_selection(int to, bool copies) {
+  const int start = cursor_.selectionStart();
+  const int end = cursor_.selectionEnd();
+  if (start == end || (to >= start && to <= end)) return;
+  const rtf::Document dragged = export_rtf(*document_, start, end, pictures_);
+  edit(
+      [&] {
+        cursor_.beginEditBlock();
+        if (!copies) cursor_.removeSelectedText();
+        const int from = !copies && to > end ? to - (end - start) : to;
+        cursor_.setPosition(from);
+        RtfImport{dragged, *document_, pictures_}.insert(cursor_, false);
+        cursor_.endEditBlock();
+        const int behind = cursor_.position();
+        cursor_.setPosition(from);
+        cursor_.setPosition(behind, QTextCursor::KeepAnchor);
+      },
+      dragging);
 }
 
 bool QtRichText::can_paste() const {

@@ -10,22 +10,54 @@
 
 namespace tarnmill::desktop {
 
-template <class Value>
-auto QtRichText::common(Value&& value) const -> std::optional<decltype(value(QTextCharFormat{}))> {
-  if (!cursor_.hasSelection()) return value(cursor_.charFormat());
-  std::optional<decltype(value(QTextCharFormat{}))> all;
+namespace {
+
+/// Up to how many characters are looked at one by one. Beyond, the parts of one format are walked, and those
+/// of a paragraph only from its start.
+constexpr int short_selection = 64;
+
+}  // namespace
+
+void QtRichText::visit_characters(const FormatVisitor& visit) const {
+  QTextCursor probe{document_.get()};
+  for (int i = cursor_.selectionStart(); i < cursor_.selectionEnd(); ++i) {
+    if (document_->characterAt(i) == QChar::ParagraphSeparator) continue;
+    // The format of a position is that of the character before it.
+    probe.setPosition(i + 1);
+    if (!visit(probe.charFormat())) return;
+  }
+}
+
+void QtRichText::visit_parts(const FormatVisitor& visit) const {
+  const int start = cursor_.selectionStart();
   const int end = cursor_.selectionEnd();
-  for (QTextBlock block = document_.findBlock(cursor_.selectionStart());
-       block.isValid() && block.position() < end; block = block.next()) {
+  for (QTextBlock block = document_->findBlock(start); block.isValid() && block.position() < end;
+       block = block.next()) {
     for (auto each = block.begin(); !each.atEnd(); ++each) {
       const QTextFragment part = each.fragment();
-      if (part.position() >= end || part.position() + part.length() <= cursor_.selectionStart()) continue;
-      const auto here = value(part.charFormat());
-      if (all && *all != here) return std::nullopt;
-      all = here;
+      const bool selected = part.position() < end && part.position() + part.length() > start;
+      if (selected && !visit(part.charFormat())) return;
     }
   }
-  // Nothing but line breaks is selected.
+}
+
+template <class Value>
+auto QtRichText::common(Value&& value) const -> std::optional<decltype(value(QTextCharFormat{}))> {
+  std::optional<decltype(value(QTextCharFormat{}))> all;
+  bool mixed = false;
+  const auto take = [&](const QTextCharFormat& format) {
+    const auto here = value(format);
+    mixed = all && *all != here;
+    all = here;
+    return !mixed;
+  };
+  if (sel_length() <= short_selection) {
+    visit_characters(take);
+  } else {
+    visit_parts(take);
+  }
+  if (mixed) return std::nullopt;
+  // Nothing is selected, or nothing but line breaks.
   return all ? all : value(cursor_.charFormat());
 }
 
@@ -38,7 +70,7 @@ void QtRichText::merge(const QTextCharFormat& format) {
 
 std::optional<Text> QtRichText::sel_font_name() const {
   return common(
-      [this](const QTextCharFormat& format) { return from_qt(family_of(format, document_.defaultFont())); });
+      [this](const QTextCharFormat& format) { return from_qt(family_of(format, document_->defaultFont())); });
 }
 
 void QtRichText::set_sel_font_name(const Text& name) {
@@ -49,7 +81,7 @@ void QtRichText::set_sel_font_name(const Text& name) {
 }
 
 std::optional<double> QtRichText::sel_font_size() const {
-  return common([this](const QTextCharFormat& format) { return size_of(format, document_.defaultFont()); });
+  return common([this](const QTextCharFormat& format) { return size_of(format, document_->defaultFont()); });
 }
 
 void QtRichText::set_sel_font_size(double points) {
@@ -113,8 +145,8 @@ void QtRichText::set_sel_color(Color color) {
 }
 
 std::optional<int> QtRichText::sel_alignment() const {
-  const QTextBlock last = document_.findBlock(cursor_.selectionEnd());
-  QTextBlock block = document_.findBlock(cursor_.selectionStart());
+  const QTextBlock last = document_->findBlock(cursor_.selectionEnd());
+  QTextBlock block = document_->findBlock(cursor_.selectionStart());
   const int first = alignment_of(block.blockFormat());
   while (block != last) {
     block = block.next();
@@ -134,7 +166,7 @@ std::optional<double> QtRichText::sel_char_offset() const { return common(char_o
 
 void QtRichText::set_sel_char_offset(double twips) {
   QTextCharFormat format;
-  set_char_offset(format, twips, sel_font_size().value_or(document_.defaultFont().pointSizeF()));
+  set_char_offset(format, twips, sel_font_size().value_or(document_->defaultFont().pointSizeF()));
   merge(format);
 }
 

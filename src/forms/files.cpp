@@ -29,10 +29,38 @@ Text from_code_page_1252(std::string_view bytes) {
   return text;
 }
 
-[[noreturn]] void cannot_write(const fs::path& temporary) {
-  std::error_code ignored;
-  fs::remove(temporary, ignored);
-  throw Fault{fault_path_access, u"Path/File access error"};
+[[noreturn]] void cannot_write() { throw Fault{fault_path_access, u"Path/File access error"}; }
+
+/// Writes the bytes into the file itself; false when they don't all arrive.
+bool write_bytes(const fs::path& path, std::string_view bytes, std::ios::openmode mode) {
+  std::ofstream file{path, std::ios::binary | mode};
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  return static_cast<bool>(file);
+}
+
+/// A name beside the file that nothing has yet.
+fs::path unused_name_beside(const fs::path& path) {
+  std::error_code unreadable;
+  fs::path name = path;
+  do {
+    name += ".new";
+  } while (fs::exists(fs::symlink_status(name, unreadable)));
+  return name;
+}
+
+/// Puts the bytes in place of an ordinary file or where nothing is; false when they can't be.
+bool replace_file(const fs::path& path, std::string_view bytes) {
+  const fs::path temporary = unused_name_beside(path);
+  std::error_code error;
+  if (write_bytes(temporary, bytes, std::ios::trunc)) {
+    const fs::file_status old = fs::status(path, error);
+    if (fs::exists(old)) fs::permissions(temporary, old.permissions(), error);
+    fs::rename(temporary, path, error);
+    if (!error) return true;
+  }
+  fs::remove(temporary, error);
+  return false;
 }
 
 }  // namespace
@@ -47,17 +75,14 @@ std::string read_file(const fs::path& path) {
 }
 
 void write_file(const fs::path& path, std::string_view bytes) {
-  fs::path temporary = path;
-  temporary += ".new";
-  {
-    std::ofstream file{temporary, std::ios::binary | std::ios::trunc};
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (!file) cannot_write(temporary);
-  }
   std::error_code error;
-  fs::rename(temporary, path, error);
-  if (error) cannot_write(temporary);
+  // A link stays one, and what it leads to is written.
+  const fs::path end = fs::is_symlink(path, error) ? fs::weakly_canonical(path, error) : path;
+  const fs::path target = error ? path : end;
+  const fs::file_status present = fs::status(target, error);
+  const bool ordinary = !fs::exists(present) || fs::is_regular_file(present);
+  const bool written = ordinary ? replace_file(target, bytes) : write_bytes(target, bytes, std::ios::out);
+  if (!written) cannot_write();
 }
 
 Text read_text_file(const fs::path& path) {
@@ -72,11 +97,7 @@ Text read_text_file(const fs::path& path) {
 void write_text_file(const fs::path& path, TextView text) { write_file(path, to_utf8(text)); }
 
 void append_text_file(const fs::path& path, TextView text) {
-  std::ofstream file{path, std::ios::binary | std::ios::app};
-  const std::string bytes = to_utf8(text);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!file) throw Fault{fault_path_access, u"Path/File access error"};
+  if (!write_bytes(path, to_utf8(text), std::ios::app)) cannot_write();
 }
 
 }  // namespace tarnmill

@@ -15,7 +15,8 @@ inline constexpr int fault_path_access = 75;
 /// The bytes of a file. Raises fault 53.
 [[nodiscard]] std::string read_file(const std::filesystem::path& path);
 /// Writes a file whole or not at all: under a temporary name beside it, flushed, then renamed, so that a
-/// failure leaves the old file as it was. Raises fault 75.
+/// failure leaves the old file as it was. A link leads to the file that is written; what is no file, such as
+/// a device, is written as it stands. Raises fault 75.
 void write_file(const std::filesystem::path& path, std::string_view bytes);
 
 /// A text file in UTF-8, with or without its mark; one that isn't valid UTF-8 is read as code page 1252.

@@ -81,7 +81,8 @@ class RichText {
   virtual void redo() = 0;
   [[nodiscard]] virtual bool can_undo() const = 0;
   [[nodiscard]] virtual bool can_redo() const = 0;
-  /// What kind of edit undo or redo is about: 0 any or none, 1 typing, 2 deleting, 4 cutting, 5 pasting.
+  /// What kind of edit undo or redo is about: 0 any or none, 1 typing, 2 deleting, 3 dragging,
+  /// 4 cutting, 5 pasting.
   [[nodiscard]] virtual int undo_kind() const = 0;
   [[nodiscard]] virtual int redo_kind() const = 0;
   virtual void cut() = 0;

@@ -16,7 +16,6 @@ namespace {
 constexpr TextView document_filter = u"Text (*.txt)|*.txt|RTF (*.rtf)|*.rtf|All Files (*.*)|*.*";
 constexpr TextView image_filter =
     u"Images (*.bmp;*.jpg;*.jpeg;*.gif;*.wmf)|*.bmp;*.jpg;*.jpeg;*.gif;*.wmf|All Files (*.*)|*.*";
-constexpr int fault_cancelled = 32755;
 constexpr int fault_invalid_picture = 481;
 
 Text ending_of(TextView name) {
@@ -55,11 +54,21 @@ MessageResult MathPad::ask_to_save(const Text& question) {
   return MsgBox(question, MessageIcon::none, u"Tarnmill", MessageButtons::yes_no_cancel);
 }
 
-Text MathPad::ask_for_file(const FileDialog& dialog) {
-  const std::optional<Text> chosen = bench().desk().choose_file(dialog);
-  bench().leave_if_ended();
-  if (!chosen) throw Fault{fault_cancelled, u"Cancel was selected."};
-  return *chosen;
+Text MathPad::ask_for_file(void (CommonDialog::*dialog)(), TextView title, TextView filter) {
+  const Text document = CommonDialog1.FileName;
+  CommonDialog1.CancelError = true;
+  CommonDialog1.Filter = Text{filter};
+  CommonDialog1.DialogTitle = Text{title};
+  CommonDialog1.FileName = Text{};
+  try {
+    (CommonDialog1.*dialog)();
+  } catch (const Fault&) {
+    CommonDialog1.FileName = document;
+    throw;
+  }
+  const Text chosen = CommonDialog1.FileName;
+  CommonDialog1.FileName = document;
+  return chosen;
 }
 
 void MathPad::load_box(const Text& path) { rt1.LoadFile(path_of(path), format_of(path)); }
@@ -67,7 +76,7 @@ void MathPad::load_box(const Text& path) { rt1.LoadFile(path_of(path), format_of
 void MathPad::save_box(const Text& path) { rt1.SaveFile(path_of(path), format_of(path)); }
 
 void MathPad::name_document(const Text& path) {
-  FileName = path;
+  CommonDialog1.FileName = path;
   Caption = Text{unnamed_caption} + path;
 }
 
@@ -89,8 +98,8 @@ void MathPad::open_document() {
       if (answer == MessageResult::cancel) return;
       if (answer == MessageResult::yes) save();
     }
-    const Text path = ask_for_file(
-        {FileDialog::Kind::open, u"Open", Text{document_filter}, filter_index_of(FileName.get()), 0, {}});
+    CommonDialog1.FilterIndex = filter_index_of(CommonDialog1.FileName.get());
+    const Text path = ask_for_file(&CommonDialog::ShowOpen, u"Open", document_filter);
     load_box(path);
     name_document(path);
     rt1.Tag = u"notchange";
@@ -102,9 +111,8 @@ void MathPad::open_document() {
 
 void MathPad::save_as() {
   quietly([&] {
-    const int filter_index = has_name() ? filter_index_of(FileName.get()) : 1;
-    const Text path =
-        ask_for_file({FileDialog::Kind::save, u"Save As", Text{document_filter}, filter_index, 0, {}});
+    CommonDialog1.FilterIndex = has_name() ? filter_index_of(CommonDialog1.FileName.get()) : 1;
+    const Text path = ask_for_file(&CommonDialog::ShowSave, u"Save As", document_filter);
     if (exists(path)) {
       const Text question = path + u" already exists.\r\nDo you want to replace it?";
       const MessageResult answer = MsgBox(question, MessageIcon::none, u"Save As", MessageButtons::yes_no);
@@ -127,7 +135,8 @@ void MathPad::save() {
       save_as();
       return;
     }
-    const Text path = FileName.get();
+    const Text path = CommonDialog1.FileName;
+    CommonDialog1.FilterIndex = filter_index_of(path);
     save_box(path);
     rt1.Tag = u"notchange";
     new_document();
@@ -145,7 +154,7 @@ void MathPad::save_current() {
       save_as();
       return;
     }
-    save_box(FileName.get());
+    save_box(CommonDialog1.FileName);
     rt1.Tag = u"notchange";
   });
 }
@@ -156,15 +165,15 @@ void MathPad::mnuRecent_Click(int Index) {
     if (answer == MessageResult::cancel) return;
     if (answer == MessageResult::yes) save_current();
   }
-  FileName = mnuRecent(Index).Caption.get();
+  CommonDialog1.FileName = mnuRecent(Index).Caption.get();
   open_current();
 }
 
 void MathPad::open_current() {
   const Text named = has_name() ? Caption->substr(unnamed_caption.size()) : Text{};
-  const Text path = FileName.get();
+  const Text path = CommonDialog1.FileName;
   // What can't be opened doesn't take the name of the document that stays.
-  FileName = named;
+  CommonDialog1.FileName = named;
   quietly([&] {
     load_box(path);
     name_document(path);
@@ -179,7 +188,8 @@ void MathPad::insert_picture() {
   quietly([&] {
     Desk& desk = bench().desk();
     desk.clear_clipboard();
-    const Text path = ask_for_file({FileDialog::Kind::open, u"Insert Image", Text{image_filter}, 0, 0, {}});
+    CommonDialog1.FilterIndex = 0;
+    const Text path = ask_for_file(&CommonDialog::ShowOpen, u"Insert Image", image_filter);
     const std::unique_ptr<Raster> picture = desk.load_picture(path_of(path));
     if (!picture) throw Fault{fault_invalid_picture, u"Invalid picture"};
     imubaci.Picture = path;

@@ -10,8 +10,6 @@ namespace tarnmill {
 
 namespace {
 
-constexpr int fault_cancelled = 32755;
-
 Text hexadecimal(Color color) {
   constexpr TextView digits = u"0123456789ABCDEF";
   Text text;
@@ -29,41 +27,39 @@ void MathPad::choose_font() {
   resume_step([&] {
     constexpr std::int32_t screen_and_printer_with_effects = 259;
     rt1.SetFocus();
-    const Font shown{rt1.document().sel_font_name().value_or(rt1.FontName),
-                     rt1.document().sel_font_size().value_or(rt1.FontSize)};
-    const FontDialog dialog{{}, screen_and_printer_with_effects, shown, dialog_color_};
-    const std::optional<FontChoice> choice = bench().desk().choose_font(dialog);
-    bench().leave_if_ended();
-    if (!choice) return;
-    dialog_color_ = choice->color;
     RichText& document = rt1.document();
-    document.set_sel_bold(choice->font.bold);
-    document.set_sel_italic(choice->font.italic);
-    document.set_sel_font_name(choice->font.name);
-    document.set_sel_font_size(choice->font.size);
-    document.set_sel_strike_through(choice->font.strike_through);
-    document.set_sel_underline(choice->font.underline);
-    document.set_sel_color(choice->color);
+    CommonDialog1.CancelError = true;
+    CommonDialog1.DialogTitle = Text{};
+    CommonDialog1.Flags = screen_and_printer_with_effects;
+    CommonDialog1.FontName = document.sel_font_name().value_or(rt1.FontName);
+    CommonDialog1.FontSize = document.sel_font_size().value_or(rt1.FontSize);
+    CommonDialog1.ShowFont();
+    document.set_sel_bold(CommonDialog1.FontBold);
+    document.set_sel_italic(CommonDialog1.FontItalic);
+    document.set_sel_font_name(CommonDialog1.FontName);
+    document.set_sel_font_size(CommonDialog1.FontSize);
+    document.set_sel_strike_through(CommonDialog1.FontStrikethru);
+    document.set_sel_underline(CommonDialog1.FontUnderline);
+    document.set_sel_color(CommonDialog1.Color);
     adjust_buttons();
     rt1.SetFocus();
     color_tip_from_selection();
-    Combo1.Text = choice->font.name;
-    cmbSize.Text = NumberToText(choice->font.size, regional());
+    Combo1.Text = CommonDialog1.FontName.get();
+    cmbSize.Text = NumberToText(CommonDialog1.FontSize, regional());
   });
 }
 
 /// The command goes on after a cancelled dialog: the selection takes the colour that the dialog was last left
 /// with.
 void MathPad::choose_color() {
-  resume_next([&] { pick_text_color(); }, [&] { rt1.document().set_sel_color(dialog_color_); });
+  resume_next([&] { pick_text_color(); }, [&] { rt1.document().set_sel_color(CommonDialog1.Color); });
 }
 
 void MathPad::pick_text_color() {
-  const std::optional<Color> chosen = bench().desk().choose_color({{}, 0, dialog_color_});
-  bench().leave_if_ended();
-  if (!chosen) throw Fault{fault_cancelled, u"Cancel was selected."};
-  dialog_color_ = *chosen;
-  show_color(*chosen);
+  CommonDialog1.CancelError = true;
+  CommonDialog1.DialogTitle = Text{};
+  CommonDialog1.ShowColor();
+  show_color(CommonDialog1.Color);
 }
 
 void MathPad::read_sel_color() {

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <filesystem>
 
+#include "forms/common_dialog.h"
 #include "forms/control_array.h"
-#include "forms/dialogs.h"
 #include "forms/field.h"
 #include "forms/image.h"
 #include "forms/label.h"
@@ -31,6 +31,8 @@ class MathPad final : public Window {
   ComboBox Combo1{*this, "Combo1"};
   ComboBox cmbSize{*this, "cmbSize"};
 
+  /// The dialogs. Between operations its FileName is the path of the document.
+  CommonDialog CommonDialog1{*this, "CommonDialog1"};
   /// The length of the document, and the number it is compared with to tell whether it has changed.
   Label lblchar2{*this, "lblchar2", parked};
   Label lblchar{*this, "lblchar", parked};
@@ -54,10 +56,10 @@ class MathPad final : public Window {
   MenuItem mnuSeparator1{*this, mnufile, "mnuSeparator1", u"-"};
   MenuItem mnuprint{*this, mnufile, "mnuprint", u"&Print"};
   MenuItem mnuprintset{*this, mnufile, "mnuprintset", u"Page Se&tup..."};
-  MenuItem mnuSeparator2{*this, mnufile, "mnuSeparator2", u"-"};
-  ControlArray<MenuItem> mnuRecent{*this, "mnuRecent", 1, 5, parked};
   MenuItem mnuSeparator3{*this, mnufile, "mnuSeparator3", u"-"};
   MenuItem mnuexit{*this, mnufile, "mnuexit", u"Close &MathPad"};
+  MenuItem mnuSeparator2{*this, mnufile, "mnuSeparator2", u"-"};
+  ControlArray<MenuItem> mnuRecent{*this, "mnuRecent", 1, 5, parked};
 
   MenuItem mnuEdit{*this, "mnuEdit", u"&Edit"};
   MenuItem mnuEditUndo{*this, mnuEdit, "mnuEditUndo", u"&Undo"};
@@ -86,8 +88,6 @@ class MathPad final : public Window {
   MenuItem mnuhelp{*this, "mnuhelp", u"&Help"};
   MenuItem mnucontents{*this, mnuhelp, "mnucontents", u"&Contents..."};
 
-  /// The path of the document between operations, or what the last file dialog was left with.
-  Field<tarnmill::Text> FileName{*this, "FileName"};
   /// The margins as they are printed, in whole inches, and a number that nothing uses.
   Field<std::int16_t> LeftMargin{*this, "LeftMargin"};
   Field<std::int16_t> RightMargin{*this, "RightMargin"};
@@ -107,7 +107,7 @@ class MathPad final : public Window {
   void save();
   /// Saves under the present name.
   void save_current();
-  /// Opens the file that FileName names.
+  /// Opens the file that the dialog's FileName names.
   void open_current();
   void insert_picture();
   ///@}
@@ -220,8 +220,8 @@ class MathPad final : public Window {
   /// Asks whether to save first: Yes, No or Cancel.
   [[nodiscard]] MessageResult ask_to_save(const tarnmill::Text& question);
   [[nodiscard]] bool has_name() const;
-  /// The file dialog of the editor; raises the fault of a cancelled dialog.
-  [[nodiscard]] tarnmill::Text ask_for_file(const FileDialog& dialog);
+  /// Asks for a file; raises the fault of a cancelled dialog. The dialog's FileName stays the document's.
+  [[nodiscard]] tarnmill::Text ask_for_file(void (CommonDialog::*dialog)(), TextView title, TextView filter);
   /// Reads and writes the box; the file's name tells the format.
   void load_box(const tarnmill::Text& path);
   void save_box(const tarnmill::Text& path);
@@ -238,9 +238,6 @@ class MathPad final : public Window {
   void choose_color();
   void show_color(Color color);
   void show_color_tip();
-
-  /// The colour that the last colour dialog was left with.
-  Color dialog_color_ = 0;
 };
 
 }  // namespace tarnmill

@@ -34,9 +34,9 @@ void MathPad::print() {
       static_cast<void>(twips_of(each));
     }
     read_margins();
-    const bool accepted = bench().desk().set_up_printer({without_pages_and_selection});
-    bench().leave_if_ended();
-    if (!accepted) return;
+    CommonDialog1.CancelError = true;
+    CommonDialog1.Flags = without_pages_and_selection;
+    CommonDialog1.ShowPrinter();
     if (rt1.document().length() == 0) {
       MsgBox(u"Nothing to print.", MessageIcon::information);
       return;

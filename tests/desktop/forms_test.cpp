@@ -57,8 +57,9 @@ TEST_P(FormOf, WhatTakesTheMouseOrTheFocusIsSpokenByName) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, FormOf,
-                         ::testing::Values("Form1", "frmFunc", "frmunesit", "frmComplex", "frmTast",
-                                           "frmAbout", "frmAnaliza", "frmIntegral", "frmTabela"));
+                         ::testing::Values("Form1", "frmFunc", "frmComplex", "frmTast", "frmAbout",
+                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmunesit", "MathPad",
+                                           "frmFind", "frmPageSetup", "frmansi"));
 
 }  // namespace
 }  // namespace tarnmill::desktop

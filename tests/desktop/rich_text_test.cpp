@@ -170,6 +170,44 @@ TEST_F(RichTextDocument, AlignmentBelongsToParagraphs) {
   EXPECT_EQ(rich.sel_alignment(), std::nullopt);
 }
 
+TEST_F(RichTextDocument, ALongSelectionIsMixedByOneCharacter) {
+  rich.set_text(Text(300, u'a') + u"\r\n" + Text(300, u'b'));
+  select(0, 601);
+  EXPECT_EQ(rich.sel_bold(), false);
+  select(450, 1);
+  rich.set_sel_bold(true);
+  for (const int length : {40, 600}) {
+    select(449, length);
+    EXPECT_EQ(rich.sel_bold(), std::nullopt) << length;
+    select(451, length);
+    EXPECT_EQ(rich.sel_bold(), false) << length;
+  }
+}
+
+TEST_F(RichTextDocument, NothingButALineBreakHasTheFormatOfWhatIsTypedNext) {
+  rich.set_text(u"a\r\nb");
+  select(1, 1);
+  EXPECT_EQ(rich.sel_bold(), false);
+}
+
+TEST_F(RichTextDocument, ADraggedSelectionMovesWithItsFormats) {
+  rich.set_text(u"abcdef");
+  select(1, 2);
+  rich.set_sel_bold(true);
+  rich.drag_selection(5, false);
+  EXPECT_EQ(rich.text(), u"adebcf");
+  EXPECT_EQ(rich.sel_text(), u"bc");
+  EXPECT_EQ(rich.sel_bold(), true);
+  EXPECT_EQ(rich.undo_kind(), 3);
+  rich.drag_selection(4, false);
+  EXPECT_EQ(rich.text(), u"adebcf") << "within itself";
+  rich.drag_selection(0, true);
+  EXPECT_EQ(rich.text(), u"bcadebcf");
+  rich.undo();
+  rich.undo();
+  EXPECT_EQ(rich.text(), u"abcdef");
+}
+
 TEST_F(RichTextDocument, ASearchSelectsWhatItFinds) {
   rich.set_text(u"one Two two twofold");
   EXPECT_EQ(rich.find(u"two", 0, false, false), 4);

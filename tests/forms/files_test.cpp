@@ -59,6 +59,38 @@ TEST_F(FilesTest, AFailedWriteLeavesTheOldFileWhole) {
   EXPECT_FALSE(fs::exists(path.string() + ".new"));
 }
 
+TEST_F(FilesTest, AFileOfTheTemporaryNameIsLeftAlone) {
+  const fs::path neighbour = path.string() + ".new";
+  write_text_file(neighbour, u"mine");
+  write_text_file(path, u"new");
+  EXPECT_EQ(read_text_file(path), u"new");
+  EXPECT_EQ(read_text_file(neighbour), u"mine");
+}
+
+TEST_F(FilesTest, ALinkStaysOneAndItsFileIsWritten) {
+  const fs::path link = program.folder() / "link.txt";
+  write_text_file(path, u"old");
+  fs::create_symlink(path, link);
+  write_text_file(link, u"new");
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(read_text_file(path), u"new");
+}
+
+TEST_F(FilesTest, TheRightsOfTheOldFileStay) {
+  write_text_file(path, u"old");
+  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  write_text_file(path, u"new");
+  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(FilesTest, AFullDiskIsAFault) {
+  const fs::path full = program.folder() / "full.txt";
+  fs::create_symlink("/dev/full", full);
+  EXPECT_EQ(fault_of([&] { write_text_file(full, u"a"); }), 75);
+  EXPECT_EQ(fault_of([&] { append_text_file(full, u"a"); }), 75);
+  EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
 TEST_F(FilesTest, ATextThatIsNotUtf8IsReadAsCodePage1252) {
   std::ofstream{path, std::ios::binary} << "\x80 \xE9";
   EXPECT_EQ(read_text_file(path), u"\u20AC \u00E9");

@@ -1,4 +1,5 @@
 #include "forms/raster.h"
+#include "graph/frm_func.h"
 #include "math_pad_fixture.h"
 
 namespace tarnmill {
@@ -294,6 +295,19 @@ TEST_F(FileCycle, APictureComesInOverTheClipboard) {
   save_as("picture.rtf");
   EXPECT_NE(bytes("picture.rtf").find("\\pngblip"), std::string::npos);
   EXPECT_EQ(document().length(), 1);
+}
+
+TEST_F(FileCycle, AGraphCopiedAsAPictureIsPasted) {
+  auto& graph = program.window<frmFunc>();
+  graph.Show();
+  int key_c = 67;
+  graph.KeyDown.raise(key_c, 2);
+  type(u"y = ");
+  pad().mnuEdit.press();
+  EXPECT_TRUE(pad().mnuEditPaste.Enabled);
+  pad().mnuEditPaste.press();
+  EXPECT_EQ(document().length(), 5);
+  EXPECT_NE(document().rtf().find("\\picw400"), std::string::npos);
 }
 
 TEST_F(FileCycle, AFileThatIsNoPictureLeavesTheDocument) {

@@ -1,3 +1,7 @@
+#include <QDir>
+#include <QFontDatabase>
+#include <QFontMetrics>
+
 #include "math_pad_fixture.h"
 #include "mathpad/binary_text.h"
 
@@ -33,8 +37,39 @@ TEST_F(SymbolChart, TheGridHoldsTheCodePage) {
   EXPECT_EQ(grid.TextMatrix(5, 18), u"") << "a code that the page leaves open";
 }
 
-TEST_F(SymbolChart, WithoutItsFontItTells) {
-  if (!form().Combo1.Text->empty()) GTEST_SKIP() << "the font is installed here";
+TEST_F(SymbolChart, OpensOnItsFont) {
+  EXPECT_EQ(form().Combo1.Text.get(), u"Marrow");
+  EXPECT_EQ(form().Combo1.List(form().Combo1.ListIndex), u"Marrow");
+  EXPECT_EQ(form().Grid1.FontName.get(), u"Marrow");
+  EXPECT_EQ(form().SB1.Panels(1).Text.get(), u"Marrow");
+  EXPECT_TRUE(dialogs().empty());
+}
+
+TEST_F(SymbolChart, ItsFontHasASignForEachCode) {
+  QFont font{"Marrow"};
+  font.setStyleStrategy(QFont::NoFontMerging);
+  const QFontMetrics metrics{font};
+  for (int code = 33; code <= 255; ++code) {
+    const Text sign = form().Grid1.TextMatrix((code - 1) / 22, (code - 1) % 22);
+    if (code == 127 || sign.empty()) continue;
+    EXPECT_TRUE(metrics.inFont(QChar{sign.front()})) << code;
+  }
+}
+
+/// The program on a machine without the font of symbols.
+class ChartWithoutItsFont : public SymbolChart {
+ protected:
+  ChartWithoutItsFont() { QFontDatabase::removeAllApplicationFonts(); }
+  ~ChartWithoutItsFont() override {
+    const QDir fonts{":/tarnmill/fonts"};
+    for (const QString& each : fonts.entryList({"*.otf", "*.ttf"})) {
+      QFontDatabase::addApplicationFont(fonts.filePath(each));
+    }
+  }
+};
+
+TEST_F(ChartWithoutItsFont, Tells) {
+  EXPECT_EQ(form().Combo1.Text.get(), u"");
   ASSERT_EQ(dialogs().size(), 1U);
   EXPECT_EQ(
       last_dialog().text,
@@ -42,6 +77,15 @@ TEST_F(SymbolChart, WithoutItsFontItTells) {
       u"\r\ninstall it as a font.");
   EXPECT_EQ(last_dialog().title, u"Tarnmill");
   EXPECT_EQ(last_dialog().icon, MessageIcon::exclamation);
+  EXPECT_EQ(last_dialog().buttons, MessageButtons::ok);
+}
+
+TEST_F(ChartWithoutItsFont, WorksWithTheFontThatIsChosen) {
+  ASSERT_FALSE(form().Combo1.items().empty());
+  form().Combo1.choose(0);
+  click(65);
+  form().Command2.press();
+  EXPECT_EQ(text(), u"A");
 }
 
 TEST_F(SymbolChart, ACellShowsItsCharacter) {

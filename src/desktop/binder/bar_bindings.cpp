@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 
 #include "desktop/qt_text.h"
+#include "desktop/skin/key.h"
 
 namespace tarnmill::desktop {
 
@@ -10,6 +11,7 @@ namespace {
 
 void show_tool(const ToolButton& tool, QAbstractButton& button) {
   button.setChecked(tool.Value != 0);
+  if (auto* key = qobject_cast<Key*>(&button)) key->setChosen(tool.Value != 0);
   button.setEnabled(tool.Enabled);
   button.setToolTip(to_qt(tool.ToolTipText.get()));
   button.setAccessibleName(to_qt(tool.ToolTipText.get()).trimmed());

@@ -5,13 +5,17 @@
 #include "desktop/qt_text.h"
 #include "desktop/skin/ground.h"
 #include "ui_Form1.h"
+#include "ui_MathPad.h"
 #include "ui_frmAbout.h"
 #include "ui_frmAnaliza.h"
 #include "ui_frmComplex.h"
+#include "ui_frmFind.h"
 #include "ui_frmFunc.h"
 #include "ui_frmIntegral.h"
+#include "ui_frmPageSetup.h"
 #include "ui_frmTabela.h"
 #include "ui_frmTast.h"
+#include "ui_frmansi.h"
 #include "ui_frmunesit.h"
 
 namespace tarnmill::desktop {
@@ -37,6 +41,8 @@ const std::map<std::string_view, Builder>& builders() {
       {"frmComplex", build<Ui::frmComplex>}, {"frmTast", build<Ui::frmTast>},
       {"frmAnaliza", build<Ui::frmAnaliza>}, {"frmIntegral", build<Ui::frmIntegral>},
       {"frmTabela", build<Ui::frmTabela>},   {"frmFunc", build<Ui::frmFunc>},
+      {"MathPad", build<Ui::MathPad>},       {"frmFind", build<Ui::frmFind>},
+      {"frmansi", build<Ui::frmansi>},       {"frmPageSetup", build<Ui::frmPageSetup>},
       {"frmunesit", build<Ui::frmunesit>},
   };
   return known;

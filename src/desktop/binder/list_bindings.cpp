@@ -27,6 +27,11 @@ void ComboBinding::start() {
   });
   if (!combo_.isEditable()) return;
   watch(*combo_.lineEdit());
+  // What is typed counts, not what the toolkit would add to it.
+  combo_.setCompleter(nullptr);
+  // The toolkit gives the line of an editable box no padding.
+  constexpr int inset = 5;
+  combo_.lineEdit()->setTextMargins(inset, 0, 0, 0);
   connect(combo_.lineEdit(), &QLineEdit::textEdited, this,
           [this](const QString& text) { enter([this, &text] { list_.Text = from_qt(text); }); });
 }
@@ -41,8 +46,14 @@ void ComboBinding::show_property(std::string_view name) {
 }
 
 void ComboBinding::show_items() {
-  combo_.clear();
-  combo_.addItems(rows_of(list_));
+  const int rows = static_cast<int>(list_.items().size());
+  if (rows > 0 && combo_.count() + 1 == rows) {
+    // Lists grow by one entry at a time.
+    combo_.addItem(to_qt(list_.items().back()));
+  } else {
+    combo_.clear();
+    combo_.addItems(rows_of(list_));
+  }
   show_choice();
 }
 

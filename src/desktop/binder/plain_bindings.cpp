@@ -4,11 +4,14 @@
 #include <cmath>
 
 #include "desktop/qt_text.h"
+#include "forms/control.h"
 
 namespace tarnmill::desktop {
 
 LabelBinding::LabelBinding(Control& control, QLabel& label, WindowView& view)
-    : PlainBinding{control, label, view}, label_{label}, colors_{label} {
+    : PlainBinding{control, label, view},
+      label_{label},
+      look_{label, dynamic_cast<const FontProperties*>(&control)} {
   label.setTextFormat(Qt::PlainText);
 }
 
@@ -19,7 +22,9 @@ void LabelBinding::show_property(std::string_view name) {
     if (!is_starting() || !caption.empty()) label_.setText(lines_to_qt(caption));
   } else if (name == "ForeColor" || name == "BackColor") {
     const auto color = static_cast<Color>(number_property(name));
-    if (!is_starting() || color != 0) colors_.show(name, color);
+    if (!is_starting() || color != 0) look_.show(name, color);
+  } else {
+    look_.show_font(name, is_starting());
   }
 }
 

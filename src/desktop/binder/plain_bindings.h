@@ -5,7 +5,7 @@
 #include <QProgressBar>
 
 #include "desktop/binder/binding.h"
-#include "desktop/binder/control_colors.h"
+#include "desktop/binder/control_look.h"
 
 namespace tarnmill::desktop {
 
@@ -19,7 +19,7 @@ class PlainBinding : public Binding {
   [[nodiscard]] bool uses_mouse() const override { return false; }
 };
 
-/// A label: caption and colours.
+/// A label: caption, colours, and the font of one that the program gives a font.
 class LabelBinding final : public PlainBinding {
  public:
   LabelBinding(Control& control, QLabel& label, WindowView& view);
@@ -29,7 +29,7 @@ class LabelBinding final : public PlainBinding {
 
  private:
   QLabel& label_;
-  ControlColors colors_;
+  ControlLook look_;
 };
 
 /// A titled group.

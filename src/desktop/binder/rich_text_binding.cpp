@@ -1,5 +1,6 @@
 #include "desktop/binder/rich_text_binding.h"
 
+#include <QDropEvent>
 #include <QKeyEvent>
 
 namespace tarnmill::desktop {
@@ -12,8 +13,11 @@ RichTextBinding::~RichTextBinding() { let_go(); }
 void RichTextBinding::start() {
   edit_.setDocument(&rich_.document());
   edit_.setContextMenuPolicy(Qt::NoContextMenu);
+  // Marked-up text of other programs could name files to be read.
+  edit_.setAcceptRichText(false);
   Binding::start();
   watch(*edit_.viewport());
+  rich_.on_document = [this] { change_widget([this] { edit_.setDocument(&rich_.document()); }); };
   rich_.on_format = [this] { change_widget([this] { show_cursor(); }); };
   // Queued, since no handler of the program may run while the toolkit is within an edit.
   connect(
@@ -32,6 +36,7 @@ void RichTextBinding::release() {
 void RichTextBinding::let_go() {
   if (control() == nullptr) return;
   rich_.on_format = {};
+  rich_.on_document = {};
   // The document goes with the control; the editor may stay for a while.
   edit_.setDocument(nullptr);
 }
@@ -65,7 +70,21 @@ bool RichTextBinding::eventFilter(QObject* watched, QEvent* event) {
       exchange(dynamic_cast<QKeyEvent&>(*event))) {
     return true;
   }
+  if (control() != nullptr && watched == edit_.viewport() && event->type() == QEvent::Drop &&
+      drop(dynamic_cast<QDropEvent&>(*event))) {
+    return true;
+  }
   return Binding::eventFilter(watched, event);
+}
+
+bool RichTextBinding::drop(QDropEvent& event) {
+  if (event.source() != edit_.viewport() && event.source() != &edit_) return false;
+  const bool copies = event.dropAction() == Qt::CopyAction;
+  const int to = edit_.cursorForPosition(event.position().toPoint()).position();
+  event.accept();
+  enter([&] { rich_.drag_selection(to, copies); });
+  if (control() != nullptr) change_widget([this] { show_cursor(); });
+  return true;
 }
 
 bool RichTextBinding::exchange(const QKeyEvent& key) {

@@ -25,6 +25,9 @@ class RichTextBinding final : public Binding {
   void show_cursor();
   /// A person has moved the caret or changed the text.
   void take_cursor();
+  /// The selection dropped elsewhere in the editor keeps its formats; what comes from other programs is left
+  /// to the toolkit, which takes it as plain text.
+  bool drop(QDropEvent& event);
   /// Cut, copy and paste go by the program's way, which keeps pictures and formats.
   bool exchange(const QKeyEvent& key);
   void let_go();

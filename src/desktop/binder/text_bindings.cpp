@@ -4,7 +4,6 @@
 #include <QTextCursor>
 
 #include "desktop/qt_text.h"
-#include "desktop/raster_text.h"
 
 namespace tarnmill::desktop {
 
@@ -17,9 +16,9 @@ void TextBinding::show_property(std::string_view name) {
     widget().setContextMenuPolicy(box_.Locked ? Qt::NoContextMenu : Qt::DefaultContextMenu);
   } else if (name == "ForeColor" || name == "BackColor") {
     const auto color = static_cast<Color>(number_property(name));
-    if (!is_starting() || color != 0) colors_.show(name, color);
-  } else if (name.starts_with("Font") && !is_starting()) {
-    show_font();
+    if (!is_starting() || color != 0) look_.show(name, color);
+  } else {
+    look_.show_font(name, is_starting());
   }
 }
 
@@ -28,8 +27,6 @@ void TextBinding::show_all() {
   const Selection selection{box_.sel_start(), box_.sel_length()};
   if (shown_selection() != selection) show_selection(selection);
 }
-
-void TextBinding::show_font() { widget().setFont(printed_font(box_.FontProperties::get())); }
 
 void TextBinding::take_text() {
   if (is_changing_widget() || control() == nullptr) return;

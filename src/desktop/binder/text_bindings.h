@@ -4,7 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "desktop/binder/binding.h"
-#include "desktop/binder/control_colors.h"
+#include "desktop/binder/control_look.h"
 #include "forms/text_box.h"
 
 namespace tarnmill::desktop {
@@ -14,7 +14,7 @@ namespace tarnmill::desktop {
 class TextBinding : public Binding {
  public:
   TextBinding(TextBox& box, QWidget& widget, WindowView& view)
-      : Binding{box, widget, view}, box_{box}, colors_{widget} {}
+      : Binding{box, widget, view}, box_{box}, look_{widget, &box} {}
 
  protected:
   struct Selection {
@@ -41,10 +41,8 @@ class TextBinding : public Binding {
   ///@}
 
  private:
-  void show_font();
-
   TextBox& box_;
-  ControlColors colors_;
+  ControlLook look_;
 };
 
 /// A text box on a line edit.

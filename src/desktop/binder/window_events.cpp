@@ -35,8 +35,10 @@ bool WindowView::window_event(QEvent& event) {
       event.ignore();
       enter([this] { window_->close(); });
       return true;
-    case QEvent::Move:
     case QEvent::Resize:
+      fill_width();
+      [[fallthrough]];
+    case QEvent::Move:
       take_geometry();
       return false;
     case QEvent::WindowStateChange:

@@ -9,6 +9,7 @@
 #include "desktop/binder/binding.h"
 #include "desktop/binder/caption_follower.h"
 #include "desktop/binder/control_names.h"
+#include "desktop/binder/menu_bar_binding.h"
 #include "desktop/binder/view_store.h"
 #include "desktop/qt_text.h"
 #include "forms/control.h"
@@ -26,6 +27,7 @@ WindowView::WindowView(Window& window, ViewStore& store, std::unique_ptr<QWidget
     : window_{&window}, store_{store}, shows_{shows}, widget_{std::move(form)} {
   widget_->setMouseTracking(true);
   bind_controls();
+  if (auto* bar = widget_->findChild<QMenuBar*>()) new MenuBarBinding{*bar, *this};
   if (shows_) take_size_of_form();
   for (const std::string_view each : {"Caption", "Width", "WindowState"}) show_property(each);
   window_->observe(this, [this](const PropertyBase& property) { show_property(property.name()); });
@@ -47,6 +49,12 @@ void WindowView::bind_controls() {
     bindings_.push_back(make_binding(*control, *each, *this));
     bindings_.back()->start();
     bind_face(*each);
+  }
+}
+
+void WindowView::fill_width() {
+  for (QWidget* each : widget_->findChildren<QWidget*>(QString{}, Qt::FindDirectChildrenOnly)) {
+    if (each->property("fills") == "width") each->resize(widget_->width(), each->height());
   }
 }
 
@@ -121,7 +129,14 @@ void WindowView::show_state() {
 void WindowView::show_visible() {
   if (!shows_ || window_->Visible == widget_->isVisible()) return;
   widget_->setVisible(window_->Visible);
+  if (window_->Visible) start_focus();
   if (!window_->Visible) emit left_screen();
+}
+
+void WindowView::start_focus() {
+  const QString name = widget_->property("firstFocus").toString();
+  auto* first = name.isEmpty() ? nullptr : widget_->findChild<QWidget*>(name);
+  if (first != nullptr && widget_->focusWidget() == nullptr) first->setFocus(Qt::OtherFocusReason);
 }
 
 void WindowView::set_on_top(bool on_top) {

@@ -63,6 +63,10 @@ class WindowView : public QObject {
 
  private:
   void bind_controls();
+  /// Widgets that the form says fill its width follow it.
+  void fill_width();
+  /// The keyboard goes to the widget that the form names, where the program gives it to none.
+  void start_focus();
   void bind_face(QWidget& key);
   void take_size_of_form();
   void show_property(std::string_view name);

@@ -60,6 +60,25 @@ void paint_bar(QPainter& painter, const QRect& rect) {
   painter.fillRect(rect.adjusted(0, rect.height() - 1, 0, 0), palette::bar_line);
 }
 
+/// White paper, its margins dashed, and lines of text, each third one short as the end of a paragraph.
+void paint_page(QPainter& painter, const QRect& rect) {
+  constexpr int margin = 12;
+  constexpr int line_step = 8;
+  constexpr int short_by = 14;
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(palette::line_on_bone);
+  painter.setBrush(Qt::white);
+  painter.drawRect(rect.adjusted(0, 0, -1, -1));
+  const QRect area = rect.adjusted(margin, margin, -margin - 3, -margin + 6);
+  painter.setPen(QPen(palette::selected, 1, Qt::DashLine));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(area.adjusted(0, 0, -1, -1));
+  for (int y = area.top() + line_step, line = 1; y < area.bottom() - 3; y += line_step, ++line) {
+    const int end = area.right() - 5 - (line % 3 == 0 ? short_by : 0);
+    painter.fillRect(QRect(QPoint(area.left() + 5, y), QPoint(end, y + 1)), palette::bone_rule);
+  }
+}
+
 }  // namespace
 
 Deck::Deck(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
@@ -83,6 +102,8 @@ void Deck::paintEvent(QPaintEvent* /*event*/) {
       return paint_plot_frame(painter, rect());
     case DeckKind::bar:
       return paint_bar(painter, rect());
+    case DeckKind::page:
+      return paint_page(painter, rect());
   }
 }
 

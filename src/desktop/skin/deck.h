@@ -10,7 +10,8 @@ enum class DeckKind {
   card,     ///< the same, smaller, under an operand
   display,  ///< green screen in a bezel
   plot,     ///< double line around the plotting area, which covers the rest
-  bar       ///< title bar, with a line below
+  bar,      ///< title bar, with a line below
+  page      ///< picture of a printed page with its margins
 };
 
 /// Draws a piece of ground and lets the mouse through to the window.

@@ -98,7 +98,7 @@ QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; lef
 QProgressBar { background: @track; border: 0; border-radius: 3px; }
 QProgressBar::chunk { background: @icon-accent; border-radius: 3px; }
 QStatusBar { background: @bone-hover; border-top: 1px solid @bone-rule; color: @ink; }
-QMenuBar { background: @bone; color: @ink; border-bottom: 1px solid @bone-rule; padding-left: 10px; }
+QMenuBar { background: @bone; color: @ink; border-bottom: 1px solid @bone-rule; padding-left: 4px; spacing: 3px; }
 QMenuBar::item { padding: 5px 8px; background: transparent; border-radius: 4px; }
 QMenuBar::item:selected { background: @bone-hover; }
 QMenuBar::item:pressed { background: @selected; color: @selected-text; }
@@ -142,7 +142,7 @@ QLabel[field="green"] { background: @display; border: 1px solid @green-line; bor
 QString application_style_sheet() {
   load_resources();
   return coloured(R"(
-QToolTip { background: @bar; color: @cream; border: 1px solid @bar; padding: 4px 10px; font-weight: 600; font-size: 12px; }
+QToolTip { background: @bar; color: @cream; border: 1px solid @bar; padding: 0 5px; font-weight: 600; font-size: 12px; }
 QMenu { background: @paper; border: 1px solid @bone-line; border-radius: 6px; padding: 4px; color: @ink; }
 QMenu::item { height: 26px; padding: 0 16px 0 9px; border-radius: 3px; background: transparent; }
 QMenu::item:selected { background: @selected; color: @selected-text; }
