@@ -17,10 +17,10 @@ void frmAnaliza::Command3_Click() {
 
 bool frmAnaliza::is_critical(double /*x*/) {
   constexpr int decimals = 3;
-  Evaluator1_.formula(u"Push(" + txtnula.Text.get() + u")");
-  Evaluator1_.formula(u"diff(" + Text3.Text.get() + u")");
-  Text9.Text = NumberToText(Evaluator1_.Result(), regional());
-  return RoundTo(Evaluator1_.Result(), decimals) == 0;
+  Evaluator1.formula(u"Push(" + txtnula.Text.get() + u")");
+  Evaluator1.formula(u"diff(" + Text3.Text.get() + u")");
+  Text9.Text = NumberToText(Evaluator1.Result(), regional());
+  return RoundTo(Evaluator1.Result(), decimals) == 0;
 }
 
 void frmAnaliza::report_critical(double x) {
@@ -28,8 +28,8 @@ void frmAnaliza::report_critical(double x) {
   const Text point = NumberToText(RoundTo(txtnula.Text.get(), decimals, regional()), regional());
   lblroot.Caption = point;
   cmdreplall_Click();
-  txtrez2.Text = evaluated(Evaluator1_, Text3);
-  txtrez.Text = NumberToText(RoundTo(Evaluator1_.Result(), decimals), regional());
+  txtrez2.Text = evaluated(Evaluator1, Text3);
+  txtrez.Text = NumberToText(RoundTo(Evaluator1.Result(), decimals), regional());
   evaluate_sides(x);
   append_line(verdict() + txtrez.Text.get() + u" for x = " + point);
   MsgBox(u"Function y = " + txtformula.Text.get() + u" has critical point\r\nin x = " + point + u".",
@@ -41,10 +41,10 @@ void frmAnaliza::evaluate_sides(double x) {
   constexpr double aside = 0.1;
   nlevo.Text = NumberToText(subtract(x, aside), regional());
   Text1.Text = with_x(Text1, nlevo.Text.get());
-  txtlevo.Text = evaluated(Evaluator2_, Text1);
+  txtlevo.Text = evaluated(Evaluator2, Text1);
   ndesno.Text = NumberToText(tarnmill::add(x, aside), regional());
   Text2.Text = with_x(Text2, ndesno.Text.get());
-  txtdesno.Text = evaluated(Evaluator3_, Text2);
+  txtdesno.Text = evaluated(Evaluator3, Text2);
 }
 
 /// The second test takes the outcome of a comparison as a number. What it compares the value with is the text

@@ -53,7 +53,7 @@ Text frmAnaliza::with_x(const TextBox& expression, const Text& value) const {
   return tarnmill::ReplaceAll(expression.Text.get(), txtX.Text.get(), value);
 }
 
-Text frmAnaliza::evaluated(ServiceEvaluator& evaluator, const TextBox& expression) {
+Text frmAnaliza::evaluated(ServiceControl& evaluator, const TextBox& expression) {
   evaluator.formula(expression.Text.get());
   return NumberToText(evaluator.Result(), regional());
 }

@@ -8,12 +8,7 @@
 
 namespace tarnmill {
 
-frmAnaliza::frmAnaliza(Workbench& bench)
-    : Window{bench, class_name},
-      Evaluator1_{bench.random()},
-      Evaluator2_{bench.random()},
-      Evaluator3_{bench.random()},
-      Evaluator4_{bench.random()} {
+frmAnaliza::frmAnaliza(Workbench& bench) : Window{bench, class_name} {
   Caption.start_as(u"Function Analize");
   Width.start_as(9300);
   Height.start_as(7860);

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "engine/evaluator.h"
-#include "engine/service/service_evaluator.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
+#include "forms/common_dialog.h"
 #include "forms/function_chooser.h"
 #include "forms/image.h"
 #include "forms/label.h"
@@ -15,6 +15,7 @@
 #include "forms/procedure.h"
 #include "forms/progress_bar.h"
 #include "forms/rich_text_box.h"
+#include "forms/service_control.h"
 #include "forms/text_box.h"
 #include "forms/window.h"
 
@@ -97,6 +98,16 @@ class frmAnaliza final : public Window {
   TextBox txtdesno{*this, "txtdesno", parked};
   /// All that was saved since the window was loaded.
   RichTextBox rtfroot{*this, "rtfroot", parked};
+  /// Holds the name of the file that it went to.
+  CommonDialog cd1{*this, "cd1"};
+  ///@}
+
+  /// \name The evaluators of the first function and of the second
+  ///@{
+  ServiceControl Evaluator1{*this, "Evaluator1"};
+  ServiceControl Evaluator2{*this, "Evaluator2"};
+  ServiceControl Evaluator3{*this, "Evaluator3"};
+  ServiceControl Evaluator4{*this, "Evaluator4"};
   ///@}
 
   /// \name Commands without a place on the window
@@ -146,7 +157,7 @@ class frmAnaliza final : public Window {
   void pass_on_rewritten();
   void restore_expressions();
   [[nodiscard]] Text with_x(const TextBox& expression, const Text& value) const;
-  [[nodiscard]] Text evaluated(ServiceEvaluator& evaluator, const TextBox& expression);
+  [[nodiscard]] Text evaluated(ServiceControl& evaluator, const TextBox& expression);
   void normalise_range();
 
   // The searches.
@@ -180,10 +191,6 @@ class frmAnaliza final : public Window {
   void save_log();
   void Image10_Click();
 
-  ServiceEvaluator Evaluator1_;
-  ServiceEvaluator Evaluator2_;
-  ServiceEvaluator Evaluator3_;
-  ServiceEvaluator Evaluator4_;
   std::optional<Evaluator> range_evaluator_;
   FunctionChooser chooser_{C1, {Check1, txtformula}, {Check2, txtfunc2}};
 

@@ -26,11 +26,11 @@ void frmAnaliza::cmdinters_Click() {
 bool frmAnaliza::is_intersection(double /*x*/) {
   cmdreplall_Click();
   Text3a.Text = with_x(Text3a, txtnula.Text.get());
-  Evaluator1_.formula(Text3.Text.get());
-  Evaluator2_.formula(Text3a.Text.get());
-  Text9.Text = NumberToText(Evaluator1_.Result(), regional());
-  Text9a.Text = NumberToText(Evaluator2_.Result(), regional());
-  return RoundTo(Evaluator1_.Result(), decimals) == RoundTo(Evaluator2_.Result(), decimals);
+  Evaluator1.formula(Text3.Text.get());
+  Evaluator2.formula(Text3a.Text.get());
+  Text9.Text = NumberToText(Evaluator1.Result(), regional());
+  Text9a.Text = NumberToText(Evaluator2.Result(), regional());
+  return RoundTo(Evaluator1.Result(), decimals) == RoundTo(Evaluator2.Result(), decimals);
 }
 
 void frmAnaliza::report_intersection(double x) {

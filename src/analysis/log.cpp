@@ -25,6 +25,7 @@ void frmAnaliza::save_log() {
   rtfroot.Text.write(rtfroot.document().text() + u"\r\n\r\nAnalyzing Finction:\r\ny = " +
                      txtformula.Text.get() + txtroot.Text.get());
   const auto path = workbench().desk().folder() / "FuncAnal.txt";
+  cd1.FileName = path.u16string();
   rtfroot.SaveFile(path, RichTextBox::rtfText);
   const MessageResult answer = MsgBox(
       u"Current Function Analyze will be opened with MathPad.\r\nThere you can edit it, save or print.",

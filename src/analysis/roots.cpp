@@ -16,8 +16,8 @@ void frmAnaliza::cmdNula_Click() {
 bool frmAnaliza::is_root(double /*x*/) {
   constexpr int decimals = 3;
   cmdreplall_Click();
-  Text9.Text = evaluated(Evaluator1_, Text3);
-  return RoundTo(Evaluator1_.Result(), decimals) == 0;
+  Text9.Text = evaluated(Evaluator1, Text3);
+  return RoundTo(Evaluator1.Result(), decimals) == 0;
 }
 
 void frmAnaliza::report_root() {
@@ -45,7 +45,7 @@ void frmAnaliza::find_y_intersection() {
   Command1_Click();
   rewrite();
   Text3.Text = with_x(Text3, txtnulao.Text.get());
-  Text9.Text = evaluated(Evaluator4_, Text3);
+  Text9.Text = evaluated(Evaluator4, Text3);
   if (is_non_finite_text(Text9.Text.get())) {
     report_undefined_at_zero(u"NOT FOUND");
     return;

@@ -8,12 +8,12 @@
 
 namespace tarnmill {
 
-frmIntegral::frmIntegral(Workbench& bench) : Window{bench, class_name}, Evaluator1_{bench.random()} {
+frmIntegral::frmIntegral(Workbench& bench) : Window{bench, class_name} {
   Width.start_as(8400);
   Height.start_as(8520);
   Surface.ForeColor.start_as(rgb(0x33, 0x4A, 0x38));
   Load.handle(this, &frmIntegral::Form_Load);
-  Evaluator1_.SamplePoint = [this](double x, double y) { draw_sample(x, y); };
+  Evaluator1.SamplePoint.handle(this, &frmIntegral::draw_sample);
   connect_title_bar(Label10, immini, Image7);
   connect_commands();
   connect_fields();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "engine/service/service_evaluator.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
 #include "forms/frame.h"
@@ -11,6 +10,7 @@
 #include "forms/picture_box.h"
 #include "forms/picture_key.h"
 #include "forms/procedure.h"
+#include "forms/service_control.h"
 #include "forms/text_box.h"
 #include "forms/window.h"
 
@@ -92,6 +92,8 @@ class frmIntegral final : public Window {
   TextBox txtX{*this, "txtX", u"x", parked};
   ///@}
 
+  ServiceControl Evaluator1{*this, "Evaluator1"};
+
   /// \name Commands without a place on the window
   ///@{
   Button cmdIntegral{*this, "cmdIntegral", {}, {}, parked};
@@ -139,7 +141,6 @@ class frmIntegral final : public Window {
   void draw_sample(double x, double y);
   void compose_line();
 
-  ServiceEvaluator Evaluator1_;
   FunctionChooser chooser_{C1, {Check1, Text4}, {Check2, Text7}};
 
   /// \name The two looks of each picture

@@ -42,12 +42,12 @@ void frmIntegral::integrate() {
   show_in_use(lblintg, lblavg);
   Text13.Text = Text4.Text.get();
   rewrite();
-  Evaluator1_.formula(u"Push(200)");
-  Evaluator1_.formula(u"Push(" + txtmin.Text.get() + u")");
-  Evaluator1_.formula(u"Push(" + txtmax.Text.get() + u")");
-  Evaluator1_.formula(u"Intg(" + Text13.Text.get() + u")");
+  Evaluator1.formula(u"Push(200)");
+  Evaluator1.formula(u"Push(" + txtmin.Text.get() + u")");
+  Evaluator1.formula(u"Push(" + txtmax.Text.get() + u")");
+  Evaluator1.formula(u"Intg(" + Text13.Text.get() + u")");
   Text10.Text = rounded_result();
-  Evaluator1_.formula(u"PopAll()");
+  Evaluator1.formula(u"PopAll()");
 }
 
 void frmIntegral::cmdsrednja_Click() {
@@ -66,9 +66,9 @@ void frmIntegral::average() {
   show_in_use(lblavg, lblintg);
   Text13.Text = Text4.Text.get();
   rewrite();
-  Evaluator1_.formula(u"Push(" + txtmin.Text.get() + u")");
-  Evaluator1_.formula(u"Push(" + txtmax.Text.get() + u")");
-  Evaluator1_.formula(u"Avg(" + Text13.Text.get() + u")");
+  Evaluator1.formula(u"Push(" + txtmin.Text.get() + u")");
+  Evaluator1.formula(u"Push(" + txtmax.Text.get() + u")");
+  Evaluator1.formula(u"Avg(" + Text13.Text.get() + u")");
   Text10.Text = rounded_result();
 }
 
@@ -92,11 +92,11 @@ void frmIntegral::differentiate() {
   Text13.Text = Text7.Text.get();
   rewrite();
   Text7a.Text = Text13.Text.get();
-  Evaluator1_.formula(u"Push(2000)");
-  Evaluator1_.formula(u"Push(" + Text8.Text.get() + u")");
-  Evaluator1_.formula(u"diff(" + Text13.Text.get() + u")");
+  Evaluator1.formula(u"Push(2000)");
+  Evaluator1.formula(u"Push(" + Text8.Text.get() + u")");
+  Evaluator1.formula(u"diff(" + Text13.Text.get() + u")");
   Text11.Text = rounded_result();
-  Evaluator1_.formula(u"PopAll()");
+  Evaluator1.formula(u"PopAll()");
 }
 
 /// The word of the method not in use fades into the window.
@@ -107,7 +107,7 @@ void frmIntegral::show_in_use(Label& used, Label& unused) {
 
 Text frmIntegral::rounded_result() {
   constexpr int decimals = 6;
-  return NumberToText(RoundTo(Evaluator1_.Result(), decimals), regional());
+  return NumberToText(RoundTo(Evaluator1.Result(), decimals), regional());
 }
 
 /// One unit is 20 pixels across and 30 up, from an origin at (200, 350). A point that the surface's

@@ -26,7 +26,7 @@ void frmIntegral::cmdreplall_Click() {
 
 void frmIntegral::Command1_Click() {
   resume_next([this] {
-    Evaluator1_.formula(Text3.Text.get());
+    Evaluator1.formula(Text3.Text.get());
     Text9.Text = rounded_result();
   });
 }

@@ -108,6 +108,13 @@ class PictureBox final : public Control, public FontProperties {
   bool recording_ = false;
 
  public:
+  /// \name The size and its unit by name; 1 is the twip and 3 the pixel
+  ///@{
+  ComputedProperty scale_width_property{*this, "ScaleWidth", [this] { return to_variant(ScaleWidth()); }};
+  ComputedProperty scale_height_property{*this, "ScaleHeight", [this] { return to_variant(ScaleHeight()); }};
+  ComputedProperty ScaleMode{*this, "ScaleMode", [this] { return Variant{unit_ == 1 ? 3 : 1}; }};
+  ///@}
+
   /// Tells the views that the raster shows something else now.
   ComputedProperty Drawn{*this, "Drawn", [] { return Variant{}; }};
 };

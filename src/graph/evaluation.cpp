@@ -3,7 +3,6 @@
 
 #include "engine/fault.h"
 #include "engine/number_text.h"
-#include "forms/workbench.h"
 #include "graph/frm_func.h"
 
 namespace tarnmill {
@@ -28,11 +27,6 @@ double evaluate(Evaluator& evaluator, TextView expression, const Regional& regio
 }
 
 }  // namespace
-
-Evaluator& frmFunc::graph_evaluator() {
-  if (!graph_evaluator_) graph_evaluator_.emplace(workbench().evaluator_host());
-  return *graph_evaluator_;
-}
 
 double frmFunc::evaluate_y(double x) {
   return evaluate(graph_evaluator(), ExpressionY.get(), regional(), {{u"K", x}});

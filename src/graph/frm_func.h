@@ -11,6 +11,7 @@
 #include "forms/check_box.h"
 #include "forms/common_dialog.h"
 #include "forms/control_array.h"
+#include "forms/evaluator_field.h"
 #include "forms/field.h"
 #include "forms/frame.h"
 #include "forms/image.h"
@@ -163,7 +164,7 @@ class frmFunc final : public Window {
   [[nodiscard]] Plane plane();
 
   /// The window's expression engine, made on first use.
-  [[nodiscard]] Evaluator& graph_evaluator();
+  [[nodiscard]] Evaluator& graph_evaluator() { return GraphEvaluator.get(); }
   ///@}
 
   /// \name State
@@ -182,6 +183,7 @@ class frmFunc final : public Window {
   Field<Variant> TangentY{*this, "TangentY"};
   Field<Variant> TangentSlope{*this, "TangentSlope"};
   Field<float> TextSW{*this, "TextSW"};
+  EvaluatorField GraphEvaluator{*this, "GraphEvaluator"};
   Field<Color> LabelColor{*this, "LabelColor"};
   Field<float> LabelDragX{*this, "LabelDragX"};
   Field<float> LabelDragY{*this, "LabelDragY"};
@@ -444,7 +446,6 @@ class frmFunc final : public Window {
   void cmdEval_Click();
   void cmdrad_Click();
 
-  std::optional<Evaluator> graph_evaluator_;
   /// The catalogue's procedures.
   std::deque<Procedure> curves_;
 };

@@ -25,8 +25,8 @@ struct FontAnswer {
 };
 
 /// One answer for a dialog that asks, given before the dialog comes. A text answers an input box or a file
-/// dialog; one of the words "ok", "cancel", "yes" and "no" also a message box or a printer dialog. A number
-/// is a colour, or a text to type.
+/// dialog; one of the words "ok", "cancel", "yes" and "no" also a message box or a printer dialog, and
+/// "cancel" refuses any dialog that takes no text. A number is a colour, or a text to type.
 class Answer {
  public:
   using Value = std::variant<Cancelled, MessageResult, Text, Color, FontAnswer>;

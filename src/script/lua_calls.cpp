@@ -80,7 +80,9 @@ int call_handler(lua_State* state) {
   const char* name = lua_tostring(state, lua_upvalueindex(2));
   const int first = first_argument(state, 1);
   const std::vector<Variant> arguments = values_from(state, first);
-  const int index = lua_isinteger(state, first) != 0 ? static_cast<int>(lua_tointeger(state, first)) : -1;
+  int is_whole = 0;
+  const lua_Integer given = lua_tointegerx(state, first, &is_whole);
+  const int index = is_whole != 0 ? static_cast<int>(given) : -1;
   Session& session = Session::of(state);
   bool missing = false;
   session.call(state,

@@ -76,7 +76,7 @@ int control_index(lua_State* state) {
 int control_newindex(lua_State* state) {
   const auto& reference = self<ControlReference>(state);
   const std::string_view name = bytes_at(state, 2);
-  const Variant value = value_at(state, 3);
+  const Variant value = value_for(state, name, 3);
   Session& session = Session::of(state);
   bool missing = false;
   session.call(state, [&] {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lua.hpp>
+#include <string_view>
 
 namespace tarnmill {
 
@@ -19,5 +20,8 @@ void set_rewriting_global(lua_State* state);
 /// GetRegistrySetting and SaveRegistrySetting.
 void set_settings_globals(lua_State* state);
 ///@}
+
+/// Pushes the evaluator that a state field of a window holds, looked up anew at each use.
+void push_window_evaluator(lua_State* state, std::string_view window, std::string_view field);
 
 }  // namespace tarnmill

@@ -1,8 +1,14 @@
 #include <array>
 #include <new>
+#include <string>
+#include <utility>
+#include <variant>
 
 #include "engine/evaluator.h"
 #include "engine/rounding.h"
+#include "forms/evaluator_field.h"
+#include "forms/window.h"
+#include "forms/workbench.h"
 #include "script/lua_engine.h"
 #include "script/lua_reference.h"
 #include "script/lua_table.h"
@@ -14,21 +20,57 @@ namespace tarnmill {
 
 namespace {
 
-struct ScriptEvaluator {
-  static constexpr const char* type = "tarnmill.evaluator";
-  explicit ScriptEvaluator(Session& session) : host{session} {}
+/// An evaluator of a script's own.
+struct OwnEvaluator {
+  explicit OwnEvaluator(Session& session) : host{session} {}
 
   ScriptEvaluatorHost host;
   Evaluator evaluator{host};
 };
 
+/// Where an evaluator lies that belongs to a window.
+struct EvaluatorPlace {
+  std::string window;
+  std::string field;
+};
+
+/// An evaluator as scripts hold it: one of their own, or the name of one of a window, which is looked up at
+/// each use.
+struct ScriptEvaluator {
+  static constexpr const char* type = "tarnmill.evaluator";
+  explicit ScriptEvaluator(Session& session) : held{std::in_place_type<OwnEvaluator>, session} {}
+  explicit ScriptEvaluator(EvaluatorPlace place) : held{std::move(place)} {}
+
+  std::variant<OwnEvaluator, EvaluatorPlace> held;
+};
+
+/// The evaluator in a field of a window that exists, or null.
+Evaluator* evaluator_at(Workbench& bench, const EvaluatorPlace& place) {
+  Window* window = bench.find_window(place.window);
+  const Window::Member* member = window == nullptr ? nullptr : window->find(place.field);
+  if (member == nullptr || !std::holds_alternative<FieldBase*>(*member)) return nullptr;
+  auto* field = dynamic_cast<EvaluatorField*>(std::get<FieldBase*>(*member));
+  return field == nullptr ? nullptr : field->made();
+}
+
+/// The evaluator that is argument 1 of a method; raises a Lua error when it has gone with its window.
+Evaluator& evaluator_of(lua_State* state) {
+  auto& script_evaluator = self<ScriptEvaluator>(state);
+  if (auto* own = std::get_if<OwnEvaluator>(&script_evaluator.held)) return own->evaluator;
+  Session& session = Session::of(state);
+  const auto& place = std::get<EvaluatorPlace>(script_evaluator.held);
+  Evaluator* evaluator = session.bench().ended() ? nullptr : evaluator_at(session.bench(), place);
+  if (evaluator == nullptr) luaL_error(state, "%s has no evaluator now", place.window.c_str());
+  return *evaluator;
+}
+
 int evaluate(lua_State* state) {
-  auto& held = self<ScriptEvaluator>(state);
+  Evaluator& evaluator = evaluator_of(state);
   const Text text = text_at(state, 2);
   const bool silent = lua_toboolean(state, 3) != 0;
   double value = 0;
   const bool runs_on =
-      Session::of(state).compute_inside(state, [&] { value = held.evaluator.Evaluate(text, silent); });
+      Session::of(state).compute_inside(state, [&] { value = evaluator.Evaluate(text, silent); });
   if (!runs_on) return 0;
   push_number(state, value);
   return 1;
@@ -46,10 +88,10 @@ int replace_text(lua_State* state) {
 }
 
 int is_it_odd(lua_State* state) {
-  const auto& held = self<ScriptEvaluator>(state);
+  const Evaluator& evaluator = evaluator_of(state);
   const Text text = text_at(state, 2);
   bool odd = false;
-  Session::compute(state, [&] { odd = held.evaluator.IsItOdd(text); });
+  Session::compute(state, [&] { odd = evaluator.IsItOdd(text); });
   lua_pushboolean(state, odd ? 1 : 0);
   return 1;
 }
@@ -74,23 +116,23 @@ int factorial2(lua_State* state) {
   return 1;
 }
 
-int push_result(lua_State* state, ScriptEvaluator& held) {
+int push_result(lua_State* state, Evaluator& evaluator) {
   double value = 0;
-  if (!Session::of(state).compute_inside(state, [&] { value = held.evaluator.Result(); })) return 0;
+  if (!Session::of(state).compute_inside(state, [&] { value = evaluator.Result(); })) return 0;
   push_number(state, value);
   return 1;
 }
 
 int evaluator_index(lua_State* state) {
-  auto& held = self<ScriptEvaluator>(state);
+  Evaluator& evaluator = evaluator_of(state);
   const std::string_view name = bytes_at(state, 2);
-  if (name == "Result") return push_result(state, held);
+  if (name == "Result") return push_result(state, evaluator);
   if (name == "Expression") {
-    push_text(state, held.evaluator.Expression());
+    push_text(state, evaluator.Expression());
   } else if (name == "error") {
-    lua_pushinteger(state, held.evaluator.error());
+    lua_pushinteger(state, evaluator.error());
   } else if (name == "Assigned") {
-    lua_pushboolean(state, held.evaluator.Assigned() ? 1 : 0);
+    lua_pushboolean(state, evaluator.Assigned() ? 1 : 0);
   } else {
     lua_pushvalue(state, 2);
     if (lua_rawget(state, lua_upvalueindex(1)) == LUA_TNIL) {
@@ -101,11 +143,11 @@ int evaluator_index(lua_State* state) {
 }
 
 int evaluator_newindex(lua_State* state) {
-  auto& held = self<ScriptEvaluator>(state);
+  Evaluator& evaluator = evaluator_of(state);
   if (bytes_at(state, 2) != "Expression") {
     luaL_error(state, "%s of an evaluator can't be set", lua_tostring(state, 2));
   }
-  held.evaluator.Expression(text_at(state, 3));
+  evaluator.Expression(text_at(state, 3));
   return 0;
 }
 
@@ -114,14 +156,23 @@ int evaluator_collected(lua_State* state) {
   return 0;
 }
 
-int make_evaluator(lua_State* state) {
+template <class Held>
+void push_evaluator(lua_State* state, Held&& held) {
   void* place = lua_newuserdatauv(state, sizeof(ScriptEvaluator), 0);
-  new (place) ScriptEvaluator{Session::of(state)};
+  new (place) ScriptEvaluator{std::forward<Held>(held)};
   luaL_setmetatable(state, ScriptEvaluator::type);
+}
+
+int make_evaluator(lua_State* state) {
+  push_evaluator(state, Session::of(state));
   return 1;
 }
 
 }  // namespace
+
+void push_window_evaluator(lua_State* state, std::string_view window, std::string_view field) {
+  push_evaluator(state, EvaluatorPlace{std::string{window}, std::string{field}});
+}
 
 void set_evaluator_global(lua_State* state) {
   static constexpr std::array meta{luaL_Reg{"__newindex", evaluator_newindex},

@@ -66,6 +66,13 @@ Variant value_at(lua_State* state, int index) {
   }
 }
 
+Variant value_for(lua_State* state, std::string_view member, int index) {
+  const bool is_color = member.ends_with("Color") && lua_isinteger(state, index) != 0;
+  const lua_Integer number = is_color ? lua_tointeger(state, index) : 0;
+  const bool is_unsigned = number > INT32_MAX && number <= UINT32_MAX;
+  return is_unsigned ? Variant{color_at(state, index)} : value_at(state, index);
+}
+
 std::vector<Variant> values_from(lua_State* state, int first) {
   std::vector<Variant> values;
   for (int i = first; i <= lua_gettop(state); ++i) values.push_back(value_at(state, i));

@@ -6,10 +6,11 @@
 #include <variant>
 
 #include "forms/control_array.h"
-#include "forms/field.h"
+#include "forms/evaluator_field.h"
 #include "forms/menu_item.h"
 #include "forms/picture_box.h"
 #include "script/lua_calls.h"
+#include "script/lua_engine.h"
 #include "script/lua_events.h"
 #include "script/lua_reference.h"
 #include "script/lua_table.h"
@@ -26,7 +27,7 @@ constexpr std::array<std::string_view, 16> window_names{
     "frmIntegral", "frmTabela",  "MathPad", "frmFind", "frmPageSetup", "frmansi", "Help",      "frmAbout"};
 
 /// What a name on a window stands for.
-enum class Means { nothing, value, control, array, procedure, event, handler, surface };
+enum class Means { nothing, value, control, array, procedure, event, handler, surface, evaluator };
 
 struct Found {
   Means means = Means::nothing;
@@ -35,10 +36,17 @@ struct Found {
   std::string_view name;
 };
 
+/// An evaluator that has not been made yet is an empty value.
+Found found_field(FieldBase& field) {
+  auto* evaluator = dynamic_cast<EvaluatorField*>(&field);
+  if (evaluator != nullptr && evaluator->made() != nullptr) return {Means::evaluator, {}, {}};
+  return {Means::value, field.read(), {}};
+}
+
 Found found_member(const Window::Member& member) {
   if (std::holds_alternative<Control*>(member)) return {Means::control, {}, {}};
   if (std::holds_alternative<ControlArrayBase*>(member)) return {Means::array, {}, {}};
-  if (const auto* field = std::get_if<FieldBase*>(&member)) return {Means::value, (*field)->read(), {}};
+  if (const auto* field = std::get_if<FieldBase*>(&member)) return found_field(**field);
   return {Means::procedure, {}, {}};
 }
 
@@ -88,6 +96,9 @@ void push_found(lua_State* state, const WindowReference& window, const Found& fo
       break;
     case Means::handler:
       push_handler(state, window.name, name);
+      break;
+    case Means::evaluator:
+      push_window_evaluator(state, window.name, name);
       break;
     case Means::surface:
       push_words(state, found.name);
@@ -145,7 +156,7 @@ int window_index(lua_State* state) {
       session.call(state, [&] { found = look_up(session.bench().window(window.name), name); });
   if (!runs_on) return 0;
   push_found(state, window, found);
-  if (found.means != Means::value) keep(state);
+  if (found.means != Means::value && found.means != Means::evaluator) keep(state);
   return 1;
 }
 
@@ -179,7 +190,7 @@ bool write(Window& window, std::string_view name, const Variant& value) {
 int window_newindex(lua_State* state) {
   const auto& window = self<WindowReference>(state);
   const std::string_view name = bytes_at(state, 2);
-  const Variant value = value_at(state, 3);
+  const Variant value = value_for(state, name, 3);
   Session& session = Session::of(state);
   require_known(state, window);
   bool written = true;

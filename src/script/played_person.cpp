@@ -23,6 +23,13 @@ DialogShown record_of(DialogShown::Kind kind, const Text& title) {
   return shown;
 }
 
+/// Whether an answer is the word of a Cancel button.
+bool is_cancel(const Answer& answer) {
+  const auto* word = std::get_if<Text>(&answer.value());
+  const auto* button = std::get_if<MessageResult>(&answer.value());
+  return (word != nullptr && *word == u"cancel") || (button != nullptr && *button == MessageResult::cancel);
+}
+
 FontChoice applied(const FontAnswer& answer, const FontDialog& dialog) {
   return {{answer.name.value_or(dialog.font.name), answer.size.value_or(dialog.font.size),
            answer.bold.value_or(dialog.font.bold), answer.italic.value_or(dialog.font.italic),
@@ -59,7 +66,7 @@ std::optional<T> PlayedPerson::next_as(const char* dialog) {
     if (const auto* number = std::get_if<Color>(&answer.value())) return from_utf8(std::to_string(*number));
   }
   if (const T* wanted = std::get_if<T>(&answer.value())) return *wanted;
-  if (!std::holds_alternative<Cancelled>(answer.value())) {
+  if (!std::holds_alternative<Cancelled>(answer.value()) && !is_cancel(answer)) {
     complain(std::string{"the answer queued for "} + dialog + " is none that it can take");
   }
   return std::nullopt;
@@ -73,6 +80,7 @@ MessageResult PlayedPerson::pressed(const MessageBox& box) {
   if (const auto* pressed = std::get_if<MessageResult>(&answer.value())) button = *pressed;
   if (const auto* word = std::get_if<Text>(&answer.value())) button = button_called(*word);
   if (button && has_button(box.buttons, *button)) return *button;
+  if (is_cancel(answer)) return refusing_button(box.buttons);
   complain("a message box with the buttons \"" + std::string{word_of(box.buttons)} +
            "\" has no button for the answer queued: " + to_utf8(box.text));
   return refusing_button(box.buttons);

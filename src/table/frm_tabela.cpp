@@ -9,7 +9,7 @@
 
 namespace tarnmill {
 
-frmTabela::frmTabela(Workbench& bench) : Window{bench, class_name}, Evaluator1_{bench.random()} {
+frmTabela::frmTabela(Workbench& bench) : Window{bench, class_name} {
   Caption.start_as(u"Value Table");
   Width.start_as(6900);
   Height.start_as(7800);

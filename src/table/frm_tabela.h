@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "engine/evaluator.h"
-#include "engine/service/service_evaluator.h"
 #include "forms/button.h"
 #include "forms/field.h"
 #include "forms/frame.h"
@@ -13,6 +12,7 @@
 #include "forms/picture_key.h"
 #include "forms/procedure.h"
 #include "forms/rich_text_box.h"
+#include "forms/service_control.h"
 #include "forms/text_box.h"
 #include "forms/window.h"
 
@@ -61,6 +61,7 @@ class frmTabela final : public Window {
   TextBox Text15{*this, "Text15", u"X", parked};
   TextBox Text16{*this, "Text16", u"x", parked};
   ///@}
+  ServiceControl Evaluator1{*this, "Evaluator1"};
   Button Command1{*this, "Command1", u"Calculate", {}, parked};
 
   Field<bool> StopTable{*this, "StopTable"};
@@ -85,7 +86,6 @@ class frmTabela final : public Window {
   [[nodiscard]] Evaluator& limits_evaluator();
   [[nodiscard]] bool agreed(const Text& question, const Text& title);
 
-  ServiceEvaluator Evaluator1_;
   std::optional<Evaluator> limits_evaluator_;
   FontDialog font_dialog_;
 };

@@ -67,8 +67,8 @@ void frmTabela::append_rows(Text& table, double lower, double upper, double step
 Text frmTabela::row(double x) {
   const Text x_text = NumberToText(x, regional());
   Text3.Text = tarnmill::ReplaceAll(Text3.Text.get(), u"x", x_text);
-  Evaluator1_.formula(Text3.Text.get());
-  const double y = RoundTo(Evaluator1_.Result(), ToLong(txtDec.Text.get(), regional()));
+  Evaluator1.formula(Text3.Text.get());
+  const double y = RoundTo(Evaluator1.Result(), ToLong(txtDec.Text.get(), regional()));
   return u"\r\n[ " + x_text + u"; " + NumberToText(y, regional()) + u" ]";
 }
 

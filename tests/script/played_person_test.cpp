@@ -33,6 +33,7 @@ TEST(PlayedPerson, PressesTheButtonThatTheQueueNames) {
       {B::yes_no_cancel, {}, R::cancel, false},
       {B::yes_no, {Cancelled{}}, R::no, false},
       {B::yes_no_cancel, {Cancelled{}}, R::cancel, false},
+      {B::yes_no, {u"cancel"}, R::no, false},
       {B::yes_no, {u"ok"}, R::no, true},
       {B::yes_no_cancel, {u"perhaps"}, R::cancel, true},
       {B::ok_cancel, {Color{5}}, R::cancel, true},
@@ -100,6 +101,15 @@ TEST(PlayedPerson, ChoosesAColor) {
   EXPECT_EQ(person.choose_color({}), rgb(1, 2, 3));
   EXPECT_EQ(person.choose_color({}), std::nullopt);
   EXPECT_EQ(person.take_complaint(), "the answer queued for a colour dialog is none that it can take");
+}
+
+TEST(PlayedPerson, TheWordCancelRefusesAnyDialogThatTakesNoText) {
+  PlayedPerson person;
+  person.answer(u"cancel");
+  person.answer(u"cancel");
+  EXPECT_EQ(person.choose_color({}), std::nullopt);
+  EXPECT_EQ(person.choose_font({}), std::nullopt);
+  EXPECT_FALSE(person.take_complaint().has_value());
 }
 
 TEST(PlayedPerson, ChangesOnlyWhatItSaysOfAFont) {

@@ -44,3 +44,14 @@ expect(display.Text, "0.")
 -- Closing the last visible window ends it as well.
 Form1:Unload()
 expect(app.ended, true)
+
+-- The index of a handler may be any whole number, and a colour may be written without a sign.
+app.restart()
+Form1.cmdClearAll()
+Form1.Number_Click(3.0)
+Form1.Number_Click("4")
+expect(Form1.Readout.Text, "34.")
+frmFunc.GridColor = 0x8000000A
+expect(frmFunc.GridColor, -2147483638)
+frmFunc.pDraw.BackColor = 0x8000000A
+expect(frmFunc.pDraw.BackColor, -2147483638)
