@@ -3,8 +3,10 @@
 #include <libwmf/api.h>
 #include <libwmf/gd.h>
 
+#include <QPainter>
 #include <algorithm>
-#include <cstring>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 namespace tarnmill::desktop {
@@ -54,19 +56,53 @@ wmfD_Rect shown_part(const wmfAPI& player, const wmfD_Rect& drawn) {
   return holds_all ? wmfD_Rect{{0, 0}, end} : drawn;
 }
 
-/// The pixels of the library, whose opacity runs backwards from 127 to 0, over white.
-QImage over_white(const int* pixels, QSize size) {
-  constexpr int transparent = 127;
-  constexpr QRgb white = 0xFFFFFFFF;
-  QImage image{size, QImage::Format_RGB32};
-  for (int y = 0; y < size.height(); ++y) {
-    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));  // NOLINT: how the toolkit gives lines
-    for (int x = 0; x < size.width(); ++x, ++pixels) {
-      const auto pixel = static_cast<QRgb>(*pixels);
-      line[x] = static_cast<int>(pixel >> 24) == transparent ? white : pixel | 0xFF000000;
-    }
+/// A file in memory, to be written by a C library.
+class MemoryFile {
+ public:
+  MemoryFile() : file_{open_memstream(&bytes_, &size_)} {}
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
+  ~MemoryFile() {
+    if (file_ != nullptr) std::fclose(file_);
+    std::free(bytes_);  // NOLINT: the C library's memory
   }
+
+  /// Null when there is no memory.
+  [[nodiscard]] std::FILE* file() const { return file_; }
+  /// What has been written; valid as long as this is.
+  [[nodiscard]] QByteArray bytes() const {
+    std::fflush(file_);
+    return QByteArray::fromRawData(bytes_, static_cast<qsizetype>(size_));
+  }
+
+ private:
+  char* bytes_ = nullptr;
+  std::size_t size_ = 0;
+  std::FILE* file_;
+};
+
+QImage over_white(const QImage& picture) {
+  QImage image{picture.size(), QImage::Format_RGB32};
+  image.fill(Qt::white);
+  QPainter{&image}.drawImage(0, 0, picture);
   return image;
+}
+
+/// Plays `part` of the plane into a picture of `size` pixels; a null image when that fails.
+QImage play(wmfAPI& player, wmfD_Rect part, QSize size) {
+  // As an encoded picture: one that is handed over as pixels the library never frees.
+  const MemoryFile encoded;
+  if (encoded.file() == nullptr) return {};
+  wmf_gd_t* canvas = WMF_GD_GetData(&player);
+  canvas->type = wmf_gd_png;
+  canvas->flags |= WMF_GD_OUTPUT_FILE;
+  canvas->file = encoded.file();
+  canvas->width = static_cast<unsigned int>(size.width());
+  canvas->height = static_cast<unsigned int>(size.height());
+  canvas->bbox = part;
+  if (wmf_play(&player, 0, &part) != wmf_E_None) return {};
+  const QImage picture = QImage::fromData(encoded.bytes(), "PNG");
+  return picture.isNull() ? picture : over_white(picture);
 }
 
 }  // namespace
@@ -80,21 +116,12 @@ QImage play_metafile(const QByteArray& bytes, QSize size) {
   if (wmf_mem_open(player.get(), data, static_cast<long>(input.size())) != wmf_E_None) return {};
   wmfD_Rect drawn{};
   if (wmf_scan(player.get(), 0, &drawn) != wmf_E_None) return {};
-  wmfD_Rect bounds = shown_part(*player, drawn);
   unsigned int width = 0;
   unsigned int height = 0;
   if (wmf_display_size(player.get(), &width, &height, dots_per_inch, dots_per_inch) != wmf_E_None) return {};
   constexpr unsigned int far = 1U << 20U;
   const QSize told{static_cast<int>(std::min(width, far)), static_cast<int>(std::min(height, far))};
-  const QSize shown = within_bounds(size.isEmpty() ? told : size);
-  wmf_gd_t* canvas = WMF_GD_GetData(player.get());
-  canvas->type = wmf_gd_image;
-  canvas->width = static_cast<unsigned int>(shown.width());
-  canvas->height = static_cast<unsigned int>(shown.height());
-  canvas->bbox = bounds;
-  const bool played = wmf_play(player.get(), 0, &bounds) == wmf_E_None && canvas->gd_image != nullptr;
-  const int* pixels = played ? wmf_gd_image_pixels(canvas->gd_image) : nullptr;
-  return pixels == nullptr ? QImage{} : over_white(pixels, shown);
+  return play(*player, shown_part(*player, drawn), within_bounds(size.isEmpty() ? told : size));
 }
 
 }  // namespace tarnmill::desktop
