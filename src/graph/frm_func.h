@@ -113,6 +113,9 @@ class frmFunc final : public Window {
   /// Writes the plot into a bitmap file that the person names; what fails is passed over.
   void save_graph();
 
+  /// Whether a file of this name is there; a name that can't be looked up counts as absent.
+  [[nodiscard]] bool file_exists(const Text& name) const;
+
   /// Asks for the text of a label, unless one waits to be stamped.
   void begin_label() { Command3_Click(); }
 
@@ -307,6 +310,7 @@ class frmFunc final : public Window {
   Procedure Stampaj{*this, "Stampaj", &frmFunc::print_graph};
   Procedure PodesiPrnt{*this, "PodesiPrnt", &frmFunc::set_up_printer};
   Procedure Sav1{*this, "Sav1", &frmFunc::save_graph};
+  Procedure FileExists{*this, "FileExists", &frmFunc::file_exists};
   Procedure inslab{*this, "inslab", &frmFunc::begin_label};
   Procedure daLabele{*this, "daLabele", &frmFunc::stamp_label};
   Procedure neLabel{*this, "neLabel", &frmFunc::drop_label};

@@ -10,14 +10,6 @@
 #include "mathpad/math_pad.h"
 
 namespace tarnmill {
-namespace {
-
-bool is_file(const std::filesystem::path& path) {
-  std::error_code unreadable;
-  return std::filesystem::is_regular_file(path, unreadable);
-}
-
-}  // namespace
 
 void frmFunc::Command5_MouseDown(int /*Button*/, int /*Shift*/, float /*X*/, float /*Y*/) {
   PopupMenu(workbench().window<frmZoom>().mnustampaj);
@@ -53,14 +45,18 @@ void frmFunc::ask_for_bitmap() {
   CD1.FileName = u"";
   CD1.ShowSave();
   const Text name = CD1.FileName;
-  const std::filesystem::path path{to_utf8(name)};
-  if (is_file(path)) {
+  if (file_exists(name)) {
     const Text question = name + u" already exists.\r\nDo you want to replace it?";
     if (MsgBox(question, MessageIcon::none, u"Save As", MessageButtons::yes_no) != MessageResult::yes) return;
   }
   pDraw.FreezePicture();
   // A file that can't be written stays as it was, and nobody is told.
-  static_cast<void>(pDraw.raster().save_bitmap(path));
+  static_cast<void>(pDraw.raster().save_bitmap(std::filesystem::path{to_utf8(name)}));
+}
+
+bool frmFunc::file_exists(const Text& name) const {
+  std::error_code unreadable;
+  return std::filesystem::is_regular_file(std::filesystem::path{to_utf8(name)}, unreadable);
 }
 
 void frmFunc::open_history() {

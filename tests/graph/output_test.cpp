@@ -212,6 +212,14 @@ TEST_F(OutputTest, AFolderThatCantBeWrittenIsPassedOver) {
   EXPECT_EQ(form().pDraw.Point(200, 200), before->point(200, 200));
 }
 
+TEST_F(OutputTest, AFileIsThereByItsNameAndAFolderIsNone) {
+  EXPECT_FALSE(form().file_exists(picture().u16string()));
+  write_file(picture(), "old");
+  EXPECT_TRUE(form().file_exists(picture().u16string()));
+  EXPECT_FALSE(form().file_exists(program.folder().u16string()));
+  EXPECT_FALSE(form().file_exists(u""));
+}
+
 TEST_F(OutputTest, AFullDiskLeavesTheOldFileWhole) {
   write_file(picture(), "old");
   form();

@@ -72,7 +72,9 @@ expect(frmFunc.pDraw.BackColor, 0xFFFFFF)
 -- output
 local picture = app.folder .. "/graph.bmp"
 app.answer(picture)
+expect(frmFunc.FileExists(picture), false)
 frmFunc.Sav1()
+expect(frmFunc.FileExists(picture), true)
 local file = assert(io.open(picture, "rb"))
 expect(file:read(2), "BM")
 file:close()
