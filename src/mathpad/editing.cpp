@@ -76,8 +76,11 @@ void MathPad::toggle(std::string_view key, ComputedProperty& property) {
   Toolbar1.Buttons(key).Value = pressed(property.read().to_number(regional()) != 0);
 }
 
+/// The box shows sizes by the regional setting, and what it shows must read back as the same size: otherwise
+/// a caret put into text of 10.5 points would change it.
 void MathPad::apply_size() {
-  const double size = NumberFromText(cmbSize.Text.get());
+  const char16_t separator = regional().decimal_separator;
+  const double size = NumberFromText(ReplaceAll(cmbSize.Text.get(), TextView{&separator, 1}, u"."));
   if (rt1.document().sel_font_size() != size) rt1.document().set_sel_font_size(size);
 }
 

@@ -35,9 +35,11 @@ int filter_index_of(TextView name) {
 
 std::filesystem::path path_of(TextView name) { return std::filesystem::path{to_utf8(name)}; }
 
+/// Whether there is such a file; a folder is none.
 bool exists(TextView name) {
   std::error_code unreadable;
-  return std::filesystem::exists(path_of(name), unreadable);
+  const std::filesystem::file_status status = std::filesystem::status(path_of(name), unreadable);
+  return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
 }
 
 /// Runs an operation; a fault, of which a cancelled dialog is one, ends it without a word.
@@ -71,9 +73,10 @@ Text MathPad::ask_for_file(void (CommonDialog::*dialog)(), TextView title, TextV
   return chosen;
 }
 
-void MathPad::load_box(const Text& path) { rt1.LoadFile(path_of(path), format_of(path)); }
-
-void MathPad::save_box(const Text& path) { rt1.SaveFile(path_of(path), format_of(path)); }
+void MathPad::prepare_dialog() {
+  CommonDialog1.CancelError = true;
+  CommonDialog1.Filter = Text{document_filter};
+}
 
 void MathPad::name_document(const Text& path) {
   CommonDialog1.FileName = path;
@@ -100,7 +103,7 @@ void MathPad::open_document() {
     }
     CommonDialog1.FilterIndex = filter_index_of(CommonDialog1.FileName.get());
     const Text path = ask_for_file(&CommonDialog::ShowOpen, u"Open", document_filter);
-    load_box(path);
+    rt1.LoadFile(path_of(path), format_of(path));
     name_document(path);
     rt1.Tag = u"notchange";
     clear_toolbar_state();
@@ -118,10 +121,11 @@ void MathPad::save_as() {
       const MessageResult answer = MsgBox(question, MessageIcon::none, u"Save As", MessageButtons::yes_no);
       if (answer == MessageResult::no) return;
     }
-    save_box(path);
+    const RichTextBox::Format format = format_of(path);
+    rt1.SaveFile(path_of(path), format);
     rt1.Text.write(u"");
-    if (format_of(path) == RichTextBox::rtfText) clear_toolbar_state();
-    load_box(path);
+    if (format == RichTextBox::rtfText) clear_toolbar_state();
+    rt1.LoadFile(path_of(path), format);
     name_document(path);
     get_edit_status();
     rt1.Tag = u"notchange";
@@ -131,16 +135,19 @@ void MathPad::save_as() {
 
 void MathPad::save() {
   quietly([&] {
+    const Text path = CommonDialog1.FileName;
+    CommonDialog1.FilterIndex = filter_index_of(path);
     if (!has_name()) {
       save_as();
       return;
     }
-    const Text path = CommonDialog1.FileName;
-    CommonDialog1.FilterIndex = filter_index_of(path);
-    save_box(path);
+    prepare_dialog();
+    // The name that the person sees tells the format.
+    const RichTextBox::Format format = format_of(Caption.get());
+    rt1.SaveFile(path_of(path), format);
     rt1.Tag = u"notchange";
     new_document();
-    load_box(path);
+    rt1.LoadFile(path_of(path), format);
     name_document(path);
     get_edit_status();
     rt1.Tag = u"notchange";
@@ -150,11 +157,14 @@ void MathPad::save() {
 
 void MathPad::save_current() {
   quietly([&] {
+    const Text path = CommonDialog1.FileName;
+    CommonDialog1.FilterIndex = filter_index_of(path);
     if (!has_name()) {
       save_as();
       return;
     }
-    save_box(CommonDialog1.FileName);
+    prepare_dialog();
+    rt1.SaveFile(path_of(path), format_of(Caption.get()));
     rt1.Tag = u"notchange";
   });
 }
@@ -174,8 +184,10 @@ void MathPad::open_current() {
   const Text path = CommonDialog1.FileName;
   // What can't be opened doesn't take the name of the document that stays.
   CommonDialog1.FileName = named;
+  prepare_dialog();
+  CommonDialog1.DialogTitle = u"Open";
   quietly([&] {
-    load_box(path);
+    rt1.LoadFile(path_of(path), format_of(path));
     name_document(path);
     rt1.Tag = u"notchange";
     clear_toolbar_state();

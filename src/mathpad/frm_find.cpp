@@ -39,6 +39,7 @@ void frmFind::enable_replacing(bool on) {
 void frmFind::report(bool found) {
   if (found) {
     if (pad().Visible) bench().activate(pad());
+    pad().rt1.SetFocus();
     return;
   }
   MsgBox(u"String not found.");

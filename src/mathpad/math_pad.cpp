@@ -114,6 +114,11 @@ void MathPad::get_edit_status() {
   lblchar.Caption = NumberToText(line, regional());
 }
 
+std::int32_t MathPad::box_handle() const {
+  const auto place = std::find(controls().begin(), controls().end(), &rt1);
+  return static_cast<std::int32_t>(place - controls().begin()) + 1;
+}
+
 void MathPad::find_next() { bench().window<frmFind>().find_next(); }
 
 }  // namespace tarnmill

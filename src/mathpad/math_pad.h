@@ -5,6 +5,7 @@
 
 #include "forms/common_dialog.h"
 #include "forms/control_array.h"
+#include "forms/control_field.h"
 #include "forms/field.h"
 #include "forms/image.h"
 #include "forms/label.h"
@@ -127,6 +128,8 @@ class MathPad final : public Window {
   void copy() { rt1.document().copy(); }
   void paste() { rt1.document().paste(); }
   void clear_selection() { rt1.document().replace_selection({}); }
+  /// What stands for the window handle of the box: a number that no other control of the window has, not 0.
+  [[nodiscard]] std::int32_t box_handle() const;
   [[nodiscard]] bool can_undo() const { return rt1.document().can_undo(); }
   [[nodiscard]] bool can_paste() const { return rt1.document().can_paste(); }
   [[nodiscard]] bool can_copy() const { return rt1.document().sel_length() >= 1; }
@@ -159,8 +162,9 @@ class MathPad final : public Window {
   /// Reads the margins into the numbers that are printed.
   void read_margins();
   void print();
-  /// Prints the document within margins in twips.
-  void print_rtf(double left, double top, double right, double bottom);
+  /// Prints the text of a box within margins in twips. `box` is the name of one of the window's rich text
+  /// boxes, the window in front or not; anything else prints nothing.
+  void print_rtf(const tarnmill::Text& box, double left, double top, double right, double bottom);
   ///@}
 
   Procedure GetEditStatus{*this, "GetEditStatus", &MathPad::get_edit_status};
@@ -175,6 +179,10 @@ class MathPad final : public Window {
   Procedure LoadWindowRecord{*this, "LoadWindowRecord", &MathPad::load_window_record};
   Procedure SaveWindowRecordAndUnload{*this, "SaveWindowRecordAndUnload",
                                       &MathPad::save_window_record_and_unload};
+  /// The box that the edits work on, and its handle.
+  ControlField m_ActiveText{*this, "m_ActiveText", rt1};
+  Procedure m_hWnd{*this, "m_hWnd", &MathPad::box_handle};
+  ComputedProperty hWnd{rt1, "hWnd", [this] { return Variant{box_handle()}; }};
   Procedure Undo{*this, "Undo", &MathPad::undo};
   Procedure Redo{*this, "Redo", &MathPad::redo};
   Procedure Cut{*this, "Cut", &MathPad::cut};
@@ -222,9 +230,8 @@ class MathPad final : public Window {
   [[nodiscard]] bool has_name() const;
   /// Asks for a file; raises the fault of a cancelled dialog. The dialog's FileName stays the document's.
   [[nodiscard]] tarnmill::Text ask_for_file(void (CommonDialog::*dialog)(), TextView title, TextView filter);
-  /// Reads and writes the box; the file's name tells the format.
-  void load_box(const tarnmill::Text& path);
-  void save_box(const tarnmill::Text& path);
+  /// What every dialog for a document's file is told.
+  void prepare_dialog();
   /// The document is the file of this name now.
   void name_document(const tarnmill::Text& path);
   void find_next();

@@ -1,3 +1,4 @@
+#include <string>
 
 #include "engine/checked.h"
 #include "engine/fault.h"
@@ -41,12 +42,17 @@ void MathPad::print() {
       MsgBox(u"Nothing to print.", MessageIcon::information);
       return;
     }
-    print_rtf(twips_of(LeftMargin), twips_of(TopMargin), twips_of(RightMargin), twips_of(BottomMargin));
+    print_rtf(u"rt1", twips_of(LeftMargin), twips_of(TopMargin), twips_of(RightMargin),
+              twips_of(BottomMargin));
   });
 }
 
-void MathPad::print_rtf(double left, double top, double right, double bottom) {
-  resume_step([&] { bench().desk().print_document(rt1.document(), {left, top, right, bottom}); });
+void MathPad::print_rtf(const tarnmill::Text& box, double left, double top, double right, double bottom) {
+  resume_step([&] {
+    const std::string name = to_utf8(box.substr(box.rfind(u'.') + 1));
+    const auto* printed = dynamic_cast<const RichTextBox*>(find_control(name));
+    if (printed != nullptr) bench().desk().print_document(printed->document(), {left, top, right, bottom});
+  });
 }
 
 }  // namespace tarnmill

@@ -7,6 +7,7 @@
 
 #include "forms/control_array.h"
 #include "forms/procedure.h"
+#include "forms/rich_text_box.h"
 #include "script/lua_events.h"
 #include "script/lua_methods.h"
 #include "script/lua_parts.h"
@@ -89,21 +90,28 @@ int control_newindex(lua_State* state) {
   return 0;
 }
 
-/// A call of the control itself runs it as a click does, or the procedure whose name it hides.
+/// A call of the control itself runs it as a click does, or the procedure whose name it hides. An editor has
+/// nothing to run and gives itself, so that a name that stands for it may also be called.
 int control_call(lua_State* state) {
   const auto& reference = self<ControlReference>(state);
   const std::vector<Variant> arguments = values_from(state, first_argument(state, 2));
   Session& session = Session::of(state);
   Variant result;
+  bool is_editor = false;
   session.call(state, [&] {
     const Procedure* hidden = session.bench().window(reference.window).find_procedure(reference.name);
     if (hidden != nullptr && hidden->arity() <= arguments.size()) {
       result = (*hidden)(arguments);
     } else if (Control* control = resolve(session.bench(), reference)) {
-      control->press();
+      is_editor = dynamic_cast<const RichTextBox*>(control) != nullptr;
+      if (!is_editor) control->press();
     }
   });
-  push_value(state, result);
+  if (is_editor) {
+    lua_pushvalue(state, 1);
+  } else {
+    push_value(state, result);
+  }
   return 1;
 }
 
@@ -195,8 +203,8 @@ void register_controls(lua_State* state) {
                                            luaL_Reg{"__call", control_call},
                                            luaL_Reg{"__tostring", control_to_text}};
   push_new_type(state, ControlReference::type, control_meta);
-  push_all(state, {common_methods(), list_methods(), menu_methods(), surface_methods(), rich_text_methods()});
-  push_all(state, {indexed_properties(), grid_and_bar_properties()});
+  push_all(state, {common_methods(), list_methods(), menu_methods(), surface_methods()});
+  push_all(state, {indexed_properties(), grid_and_bar_properties(), rich_text_functions()});
   lua_pushcclosure(state, control_index, 2);
   lua_setfield(state, -2, "__index");
   lua_pop(state, 1);

@@ -42,11 +42,12 @@ int col_width(lua_State* state) {
 }
 
 int find(lua_State* state) {
-  const Text text = text_at(state, 2);
-  const int start = lua_isnoneornil(state, 3) ? 0 : long_at(state, 3);
-  const int options = lua_isnoneornil(state, 5) ? 0 : long_at(state, 5);
+  drop_self(state);
+  const Text text = text_at(state, 1);
+  const int start = lua_isnoneornil(state, 2) ? 0 : long_at(state, 2);
+  const int options = lua_isnoneornil(state, 4) ? 0 : long_at(state, 4);
   int found = -1;
-  with_control<RichTextBox>(state, self<ControlReference>(state), "Find",
+  with_control<RichTextBox>(state, owner(state), "Find",
                             [&](RichTextBox& box) { found = box.Find(text, start, options); });
   lua_pushinteger(state, found);
   return 1;
@@ -55,9 +56,10 @@ int find(lua_State* state) {
 /// The file of the first argument, in the format of the second.
 int exchange_file(lua_State* state, const char* method,
                   void (RichTextBox::*exchange)(const std::filesystem::path&, RichTextBox::Format)) {
-  const std::filesystem::path path{bytes_at(state, 2)};
-  const bool plain = !lua_isnoneornil(state, 3) && long_at(state, 3) == RichTextBox::rtfText;
-  with_control<RichTextBox>(state, self<ControlReference>(state), method, [&](RichTextBox& box) {
+  drop_self(state);
+  const std::filesystem::path path{bytes_at(state, 1)};
+  const bool plain = !lua_isnoneornil(state, 2) && long_at(state, 2) == RichTextBox::rtfText;
+  with_control<RichTextBox>(state, owner(state), method, [&](RichTextBox& box) {
     (box.*exchange)(path, plain ? RichTextBox::rtfText : RichTextBox::rtfRTF);
   });
   return 0;
@@ -69,10 +71,10 @@ int save_file(lua_State* state) { return exchange_file(state, "SaveFile", &RichT
 
 }  // namespace
 
-std::span<const luaL_Reg> rich_text_methods() {
-  static constexpr std::array methods{luaL_Reg{"Find", find}, luaL_Reg{"LoadFile", load_file},
-                                      luaL_Reg{"SaveFile", save_file}};
-  return methods;
+std::span<const luaL_Reg> rich_text_functions() {
+  static constexpr std::array functions{luaL_Reg{"Find", find}, luaL_Reg{"LoadFile", load_file},
+                                        luaL_Reg{"SaveFile", save_file}};
+  return functions;
 }
 
 std::span<const luaL_Reg> grid_and_bar_properties() {

@@ -17,13 +17,14 @@ namespace tarnmill {
 [[nodiscard]] std::span<const luaL_Reg> list_methods();
 [[nodiscard]] std::span<const luaL_Reg> menu_methods();
 [[nodiscard]] std::span<const luaL_Reg> surface_methods();
-[[nodiscard]] std::span<const luaL_Reg> rich_text_methods();
 ///@}
 
 /// Properties that take an index, called with a dot: `list.List(i)`. The control is the first upvalue, and
 /// the index the first argument.
 [[nodiscard]] std::span<const luaL_Reg> indexed_properties();
 [[nodiscard]] std::span<const luaL_Reg> grid_and_bar_properties();
+/// What an editor is asked with several arguments, called with a dot or a colon.
+[[nodiscard]] std::span<const luaL_Reg> rich_text_functions();
 
 /// Runs `use` on the control that a reference stands for, as the event loop runs a handler. Raises a Lua
 /// error when it is not of the kind C, which has no method of this name. False when the program has ended in

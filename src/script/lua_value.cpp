@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine/rounding.h"
+#include "script/lua_reference.h"
 #include "script/session.h"
 
 namespace tarnmill {
@@ -75,7 +76,14 @@ Variant value_for(lua_State* state, std::string_view member, int index) {
 
 std::vector<Variant> values_from(lua_State* state, int first) {
   std::vector<Variant> values;
-  for (int i = first; i <= lua_gettop(state); ++i) values.push_back(value_at(state, i));
+  for (int i = first; i <= lua_gettop(state); ++i) {
+    const void* control = luaL_testudata(state, i, ControlReference::type);
+    if (control == nullptr) {
+      values.push_back(value_at(state, i));
+    } else {
+      values.emplace_back(from_utf8(path_of(*static_cast<const ControlReference*>(control))));
+    }
+  }
   return values;
 }
 

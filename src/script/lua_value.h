@@ -26,7 +26,7 @@ void push_value(lua_State* state, const Variant& value);
 [[nodiscard]] Variant value_at(lua_State* state, int index);
 /// The value to assign to a member of this name. A colour may be written without a sign, as 0x8000000A.
 [[nodiscard]] Variant value_for(lua_State* state, std::string_view member, int index);
-/// All arguments from `first` on.
+/// All arguments from `first` on; a control as its path, such as "MathPad.rt1".
 [[nodiscard]] std::vector<Variant> values_from(lua_State* state, int first);
 /// A text; a number gives its text by NumberToText.
 [[nodiscard]] Text text_at(lua_State* state, int index);

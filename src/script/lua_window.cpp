@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "forms/control_array.h"
+#include "forms/control_field.h"
 #include "forms/evaluator_field.h"
 #include "forms/menu_item.h"
 #include "forms/picture_box.h"
@@ -27,17 +28,20 @@ constexpr std::array<std::string_view, 16> window_names{
     "frmIntegral", "frmTabela",  "MathPad", "frmFind", "frmPageSetup", "frmansi", "Help",      "frmAbout"};
 
 /// What a name on a window stands for.
-enum class Means { nothing, value, control, array, procedure, event, handler, surface, evaluator };
+enum class Means { nothing, value, control, named_control, array, procedure, event, handler, evaluator };
 
 struct Found {
   Means means = Means::nothing;
   Variant value;
-  /// The name of the surface.
+  /// The own name of a control that is found under another.
   std::string_view name;
 };
 
 /// An evaluator that has not been made yet is an empty value.
 Found found_field(FieldBase& field) {
+  if (const auto* alias = dynamic_cast<ControlField*>(&field)) {
+    return {Means::named_control, {}, alias->control().name()};
+  }
   auto* evaluator = dynamic_cast<EvaluatorField*>(&field);
   if (evaluator != nullptr && evaluator->made() != nullptr) return {Means::evaluator, {}, {}};
   return {Means::value, field.read(), {}};
@@ -71,7 +75,7 @@ Found look_up(const Window& window, std::string_view name) {
   if (window.find_event(name) != nullptr) return {Means::event, {}, {}};
   if (is_handler(window, name)) return {Means::handler, {}, {}};
   const Control* surface = name == "Surface" ? surface_of(window) : nullptr;
-  if (surface != nullptr) return {Means::surface, {}, surface->name()};
+  if (surface != nullptr) return {Means::named_control, {}, surface->name()};
   return {};
 }
 
@@ -100,7 +104,7 @@ void push_found(lua_State* state, const WindowReference& window, const Found& fo
     case Means::evaluator:
       push_window_evaluator(state, window.name, name);
       break;
-    case Means::surface:
+    case Means::named_control:
       push_words(state, found.name);
       push_control(state, window.name, -1, -1);
       break;

@@ -97,6 +97,25 @@ TEST_F(Editing, TheBoxesSetTheSelection) {
   EXPECT_EQ(document().sel_font_name(), pad().Combo1.List(0));
 }
 
+TEST_F(Editing, ACaretInASizeWithAFractionLeavesItAloneUnderADecimalComma) {
+  program.desk.decimal_separator(u',');
+  type(u"abc");
+  document().select(0, 2);
+  pad().rt1.SelFontSize.write(10.5);
+  document().select(3, 0);
+  document().select(0, 1);
+  EXPECT_EQ(pad().cmbSize.Text.get(), u"10,5");
+  EXPECT_EQ(document().sel_font_size(), 10.5);
+  pad().cmbSize.Text = u"12,5";
+  EXPECT_EQ(document().sel_font_size(), 12.5);
+}
+
+TEST_F(Editing, TheActiveBoxIsKnownByItsHandle) {
+  EXPECT_EQ(&pad().m_ActiveText.control(), &pad().rt1);
+  EXPECT_NE(pad().box_handle(), 0);
+  EXPECT_EQ(pad().hWnd.read().to_number({}), pad().box_handle());
+}
+
 struct Raised {
   const char* label;
   const char16_t* size;

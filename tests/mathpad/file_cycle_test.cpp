@@ -124,6 +124,38 @@ TEST_F(FileCycle, SaveAsStoresAndNames) {
   EXPECT_EQ(pad().rt1.Tag.get(), u"notchange");
 }
 
+TEST_F(FileCycle, AFolderOfTheNameIsNoFileToReplace) {
+  std::filesystem::create_directory(program.folder() / "a.txt");
+  type(u"new");
+  save_as("a.txt");
+  EXPECT_EQ(dialogs().size(), 1U);
+  EXPECT_EQ(text(), u"new");
+  EXPECT_EQ(pad().Caption.get(), u"MathPad    ");
+}
+
+TEST_F(FileCycle, TheCaptionTellsTheFormatOfASave) {
+  type(u"abc");
+  save_as("a.txt");
+  pad().Caption = u"MathPad    " + path("a.rtf");
+  pad().save();
+  EXPECT_EQ(bytes("a.txt").substr(0, 5), "{\\rtf");
+  EXPECT_EQ(text(), u"abc");
+  EXPECT_EQ(pad().Caption.get(), u"MathPad    " + path("a.txt"));
+}
+
+TEST_F(FileCycle, EverySaveAndOpenPreparesTheDialog) {
+  type(u"abc");
+  save_as("a.rtf");
+  pad().CommonDialog1.Filter = Text{};
+  pad().CommonDialog1.CancelError = false;
+  pad().save_current();
+  EXPECT_EQ(pad().CommonDialog1.FilterIndex, 2);
+  EXPECT_TRUE(pad().CommonDialog1.CancelError);
+  EXPECT_EQ(pad().CommonDialog1.Filter.get(), u"Text (*.txt)|*.txt|RTF (*.rtf)|*.rtf|All Files (*.*)|*.*");
+  pad().open_current();
+  EXPECT_EQ(pad().CommonDialog1.DialogTitle.get(), u"Open");
+}
+
 TEST_F(FileCycle, AFileThatIsThereIsAskedFor) {
   write("a.txt", u"old");
   type(u"new");

@@ -31,6 +31,7 @@ TEST_F(Finding, AMatchIsSelected) {
   EXPECT_EQ(document().sel_start(), 4);
   EXPECT_EQ(document().sel_length(), 3);
   EXPECT_EQ(program.bench.active_window(), &pad());
+  EXPECT_EQ(program.bench.focus(), &pad().rt1);
   form().FindNextButton.press();
   EXPECT_EQ(form().position, 8);
   form().FindNextButton.press();

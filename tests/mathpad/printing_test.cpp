@@ -110,6 +110,15 @@ TEST_F(Printing, AShortDocumentIsOnePage) {
   EXPECT_TRUE(printed().contains("omega"));
 }
 
+TEST_F(Printing, OnlyARichTextBoxIsPrinted) {
+  assign(u"alpha");
+  program.desk.printer(paper());
+  pad().print_rtf(u"MathPad.Text1", 0, 0, 0, 0);
+  EXPECT_FALSE(std::filesystem::exists(paper()));
+  pad().print_rtf(u"MathPad.rt1", 1440, 1440, 1440, 1440);
+  EXPECT_TRUE(printed().contains("alpha"));
+}
+
 TEST_F(Printing, ALongDocumentGoesOnPageByPage) {
   Text lines;
   for (int i = 1; i <= 200; ++i) lines += u"line" + NumberToText(i, {}) + u".\r\n";

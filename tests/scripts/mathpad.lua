@@ -29,6 +29,13 @@ assert(MathPad.Caption == "MathPad    " .. path)
 assert(box.Tag == "notchange")
 assert(box.TextRTF:find("\\b", 1, true), "the saved text is still formatted")
 assert(box:Find("times", 0, nil, 2) == 15)
+assert(box.Find("times", 0, nil, 2) == 15, "a dot serves as well")
+assert(MathPad.m_hWnd() == box.hWnd and box.hWnd ~= 0)
+assert(MathPad.m_ActiveText.SelStart == 15)
+assert(MathPad.m_ActiveText().SelText == "times")
+app.printer = app.folder .. "/note.pdf"
+MathPad.PrintRTF(box, 1440, 1440, 1440, 1440)
+assert(io.open(app.printer))
 
 frmFind.Text1.Text = "x"
 frmFind.FindButton:Click()
