@@ -12,7 +12,7 @@ namespace tarnmill {
 /// round ended the loop. Overflow when x leaves the range; what a round raises passes through.
 template <std::predicate<double> Round>
 bool counted_loop(double from, double to, double step, Round&& round) {
-  for (double x = from; step < 0 ? x >= to : x <= to; x = add(x, step)) {
+  for (double x = from; step < 0 ? x >= to : x <= to; x = add(x, step)) {  // NOLINT(cert-flp30-c)
     if (round(x)) return true;
   }
   return false;

@@ -68,7 +68,7 @@ Text MathPad::ask_for_file(void (CommonDialog::*dialog)(), TextView title, TextV
     CommonDialog1.FileName = document;
     throw;
   }
-  const Text chosen = CommonDialog1.FileName;
+  Text chosen = CommonDialog1.FileName;
   CommonDialog1.FileName = document;
   return chosen;
 }

@@ -84,7 +84,8 @@ inline constexpr QColor memory_yellow{255, 255, 0};
 /// `share` (0 to 1) of `other` mixed into `base`, each channel by itself, opaque.
 inline QColor mix(const QColor& base, const QColor& other, double share) {
   const auto channel = [share](int from, int to) {
-    return static_cast<int>(from + (to - from) * share + 0.5);
+    return static_cast<int>(from + (to - from) * share +
+                            0.5);  // NOLINT(bugprone-incorrect-roundings): never < 0
   };
   return {channel(base.red(), other.red()), channel(base.green(), other.green()),
           channel(base.blue(), other.blue())};
