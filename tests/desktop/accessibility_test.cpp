@@ -166,7 +166,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, MenuKey,
 
 INSTANTIATE_TEST_SUITE_P(Windows, Accessibility,
                          ::testing::Values("Form1", "frmComplex", "frmTast", "frmFunc", "frmunesit",
-                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmAbout"));
+                                           "frmAnaliza", "frmIntegral", "frmTabela", "frmAbout", "frmFind",
+                                           "frmPageSetup", "frmansi"));
 
 }  // namespace
 }  // namespace tarnmill::desktop
