@@ -83,6 +83,23 @@ void MathPad::name_document(const Text& path) {
   Caption = Text{unnamed_caption} + path;
 }
 
+void MathPad::load_opened(const Text& path) {
+  rt1.LoadFile(path_of(path), format_of(path));
+  name_document(path);
+  rt1.Tag = u"notchange";
+  clear_toolbar_state();
+  get_edit_status();
+  AddRecentFile(bench(), path);
+}
+
+void MathPad::load_stored(const Text& path, RichTextBox::Format format) {
+  rt1.LoadFile(path_of(path), format);
+  name_document(path);
+  get_edit_status();
+  rt1.Tag = u"notchange";
+  AddRecentFile(bench(), path);
+}
+
 void MathPad::new_document() {
   if (rt1.Tag.get() == u"change") {
     const MessageResult answer = ask_to_save(u"Do you want to save the changes?");
@@ -103,12 +120,7 @@ void MathPad::open_document() {
     }
     CommonDialog1.FilterIndex = filter_index_of(CommonDialog1.FileName.get());
     const Text path = ask_for_file(&CommonDialog::ShowOpen, u"Open", document_filter);
-    rt1.LoadFile(path_of(path), format_of(path));
-    name_document(path);
-    rt1.Tag = u"notchange";
-    clear_toolbar_state();
-    get_edit_status();
-    AddRecentFile(bench(), path);
+    load_opened(path);
   });
 }
 
@@ -125,48 +137,36 @@ void MathPad::save_as() {
     rt1.SaveFile(path_of(path), format);
     rt1.Text.write(u"");
     if (format == RichTextBox::rtfText) clear_toolbar_state();
-    rt1.LoadFile(path_of(path), format);
-    name_document(path);
-    get_edit_status();
-    rt1.Tag = u"notchange";
-    AddRecentFile(bench(), path);
+    load_stored(path, format);
   });
 }
 
 void MathPad::save() {
   quietly([&] {
     const Text path = CommonDialog1.FileName;
-    CommonDialog1.FilterIndex = filter_index_of(path);
-    if (!has_name()) {
-      save_as();
-      return;
-    }
-    prepare_dialog();
     // The name that the person sees tells the format.
     const RichTextBox::Format format = format_of(Caption.get());
-    rt1.SaveFile(path_of(path), format);
-    rt1.Tag = u"notchange";
+    if (!store()) return;
     new_document();
-    rt1.LoadFile(path_of(path), format);
-    name_document(path);
-    get_edit_status();
-    rt1.Tag = u"notchange";
-    AddRecentFile(bench(), path);
+    load_stored(path, format);
   });
 }
 
 void MathPad::save_current() {
-  quietly([&] {
-    const Text path = CommonDialog1.FileName;
-    CommonDialog1.FilterIndex = filter_index_of(path);
-    if (!has_name()) {
-      save_as();
-      return;
-    }
-    prepare_dialog();
-    rt1.SaveFile(path_of(path), format_of(Caption.get()));
-    rt1.Tag = u"notchange";
-  });
+  quietly([&] { store(); });
+}
+
+bool MathPad::store() {
+  const Text path = CommonDialog1.FileName;
+  CommonDialog1.FilterIndex = filter_index_of(path);
+  if (!has_name()) {
+    save_as();
+    return false;
+  }
+  prepare_dialog();
+  rt1.SaveFile(path_of(path), format_of(Caption.get()));
+  rt1.Tag = u"notchange";
+  return true;
 }
 
 void MathPad::mnuRecent_Click(int Index) {
@@ -186,14 +186,7 @@ void MathPad::open_current() {
   CommonDialog1.FileName = named;
   prepare_dialog();
   CommonDialog1.DialogTitle = u"Open";
-  quietly([&] {
-    rt1.LoadFile(path_of(path), format_of(path));
-    name_document(path);
-    rt1.Tag = u"notchange";
-    clear_toolbar_state();
-    get_edit_status();
-    AddRecentFile(bench(), path);
-  });
+  quietly([&] { load_opened(path); });
 }
 
 void MathPad::insert_picture() {

@@ -234,6 +234,13 @@ class MathPad final : public Window {
   void prepare_dialog();
   /// The document is the file of this name now.
   void name_document(const tarnmill::Text& path);
+  /// Saves the document under the name that it has, or asks for one; gives whether it had one. Raises the
+  /// fault of a file that can't be written.
+  bool store();
+  /// Shows the file that the person opens. Raises the fault of a file that can't be read.
+  void load_opened(const tarnmill::Text& path);
+  /// Shows what has just been stored, as it stands in the file. Raises as load_opened does.
+  void load_stored(const tarnmill::Text& path, RichTextBox::Format format);
   void find_next();
 
   void show_selection_format(bool with_size);
