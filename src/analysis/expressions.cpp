@@ -63,8 +63,4 @@ void frmAnaliza::normalise_range() {
   for (TextBox* limit : {&txtgore, &txtdole}) evaluate_limit(*limit, *range_evaluator_);
 }
 
-Text frmAnaliza::replace_all(const Text& text, const Text& find, const Text& replacement) const {
-  return tarnmill::ReplaceAll(text, find, replacement);
-}
-
 }  // namespace tarnmill

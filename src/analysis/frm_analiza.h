@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "engine/evaluator.h"
+#include "engine/text.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
 #include "forms/common_dialog.h"
@@ -32,9 +33,6 @@ class frmAnaliza final : public Window {
   static constexpr std::string_view class_name = "frmAnaliza";
 
   explicit frmAnaliza(Workbench& bench);
-
-  /// One pass of exact replacement.
-  [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
 
   /// \name Title bar
   ///@{
@@ -82,10 +80,10 @@ class frmAnaliza final : public Window {
   TextBox Text3a{*this, "Text3a", parked};
   TextBox txtformula2{*this, "txtformula2", parked};
   TextBox txtfunc2a{*this, "txtfunc2a", parked};
-  TextBox txtX{*this, "txtX", u"x", parked};
-  TextBox txtk{*this, "txtk", u"K", parked};
-  TextBox Text15{*this, "Text15", u"X", parked};
-  TextBox Text16{*this, "Text16", u"x", parked};
+  TextBox txtX{*this, "txtX", u"x", hidden};
+  TextBox txtk{*this, "txtk", u"K", hidden};
+  TextBox Text15{*this, "Text15", u"X", hidden};
+  TextBox Text16{*this, "Text16", u"x", hidden};
   TextBox txtnula{*this, "txtnula", parked};
   TextBox txtnulao{*this, "txtnulao", u"0", parked};
   TextBox Text9{*this, "Text9", parked};
@@ -127,7 +125,7 @@ class frmAnaliza final : public Window {
   Procedure ktox{*this, "ktox", &frmAnaliza::Command4_Click};
   Procedure xtok{*this, "xtok", &frmAnaliza::Command2_Click};
   Procedure zam{*this, "zam", &frmAnaliza::cmdzam_Click};
-  Procedure ReplaceAll{*this, "ReplaceAll", &frmAnaliza::replace_all};
+  Procedure ReplaceAll{*this, "ReplaceAll", &tarnmill::ReplaceAll};
 
  private:
   /// A walk over the range and what is done with the first x that it stops at.
@@ -196,24 +194,24 @@ class frmAnaliza final : public Window {
 
   /// \name The two looks of each picture
   ///@{
-  Image imrootg{*this, "imrootg", u"roots", {}, parked};
-  Image imrootd{*this, "imrootd", u"roots-pressed", {}, parked};
-  Image immaxg{*this, "immaxg", u"analyse", {}, parked};
-  Image immaxd{*this, "immaxd", u"analyse-pressed", {}, parked};
-  Image imsaveg{*this, "imsaveg", u"save", {}, parked};
-  Image imsaved{*this, "imsaved", u"save-pressed", {}, parked};
-  Image imyintg{*this, "imyintg", u"y-intersection", {}, parked};
-  Image imyintd{*this, "imyintd", u"y-intersection-pressed", {}, parked};
-  Image iminsg{*this, "iminsg", u"intersection", {}, parked};
-  Image iminsd{*this, "iminsd", u"intersection-pressed", {}, parked};
-  Image imintg{*this, "imintg", u"integral", {}, parked};
-  Image imintd{*this, "imintd", u"integral-pressed", {}, parked};
-  Image imclearg{*this, "imclearg", u"clear-page", {}, parked};
-  Image imcleard{*this, "imcleard", u"clear-page-pressed", {}, parked};
-  Image imc{*this, "imc", u"close", {}, parked};
-  Image imclose{*this, "imclose", u"close-pressed", {}, parked};
-  Image imcm{*this, "imcm", u"minimise", {}, parked};
-  Image imcmin{*this, "imcmin", u"minimise-pressed", {}, parked};
+  Image imrootg{*this, "imrootg", u"roots", {}, hidden};
+  Image imrootd{*this, "imrootd", u"roots-pressed", {}, hidden};
+  Image immaxg{*this, "immaxg", u"analyse", {}, hidden};
+  Image immaxd{*this, "immaxd", u"analyse-pressed", {}, hidden};
+  Image imsaveg{*this, "imsaveg", u"save", {}, hidden};
+  Image imsaved{*this, "imsaved", u"save-pressed", {}, hidden};
+  Image imyintg{*this, "imyintg", u"y-intersection", {}, hidden};
+  Image imyintd{*this, "imyintd", u"y-intersection-pressed", {}, hidden};
+  Image iminsg{*this, "iminsg", u"intersection", {}, hidden};
+  Image iminsd{*this, "iminsd", u"intersection-pressed", {}, hidden};
+  Image imintg{*this, "imintg", u"integral", {}, hidden};
+  Image imintd{*this, "imintd", u"integral-pressed", {}, hidden};
+  Image imclearg{*this, "imclearg", u"clear-page", {}, hidden};
+  Image imcleard{*this, "imcleard", u"clear-page-pressed", {}, hidden};
+  Image imc{*this, "imc", u"close", {}, hidden};
+  Image imclose{*this, "imclose", u"close-pressed", {}, hidden};
+  Image imcm{*this, "imcm", u"minimise", {}, hidden};
+  Image imcmin{*this, "imcmin", u"minimise-pressed", {}, hidden};
   PictureKey roots_key_{Image1, imrootg, imrootd};
   PictureKey extremes_key_{Image2, immaxg, immaxd};
   PictureKey save_key_{Image3, imsaveg, imsaved};

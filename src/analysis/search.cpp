@@ -71,7 +71,7 @@ void frmAnaliza::show_progress(double x, double dole, double gore) {
   const double percent = RoundTo(divide(multiply(whole, subtract(x, dole)), subtract(gore, dole)), 0);
   pb1.Visible = true;
   pb1.advance_to(percent);
-  if (pb1.Value == whole) pb1.Visible = false;
+  if (pb1.value() == whole) pb1.Visible = false;
 }
 
 void frmAnaliza::end_progress() {

@@ -200,15 +200,16 @@ std::optional<double> EntryMachine::root() {
   // Parity is that of the rounded degree, the exponent that of the degree itself.
   const std::int16_t rounded = ToInteger(Op2->to_number(regional()));
   const auto sign = compare(Op1, 0, regional());
-  const auto exponent = [this] { return divide(1, Op2->to_number(regional())); };
-  if (IsOdd(rounded, regional()) && is_lt(sign)) {
-    return negate(Power(negate(Op1->to_number(regional())), exponent()));
-  }
+  if (IsOdd(rounded, regional()) && is_lt(sign)) return negate(root_of(negate(Op1->to_number(regional()))));
   if (is_lteq(sign)) {
     panel_.report(u"Invalid input. Check the sign.", MessageIcon::exclamation);
     return std::nullopt;
   }
-  return Power(Op1->to_number(regional()), exponent());
+  return root_of(Op1->to_number(regional()));
+}
+
+double EntryMachine::root_of(double radicand) {
+  return Power(radicand, divide(1, Op2->to_number(regional())));
 }
 
 }  // namespace tarnmill

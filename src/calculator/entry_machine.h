@@ -80,6 +80,8 @@ class EntryMachine {
   [[nodiscard]] std::optional<double> pending_result();
   [[nodiscard]] std::optional<double> quotient();
   [[nodiscard]] std::optional<double> root();
+  /// The root of a number, of the degree that Op2 holds.
+  [[nodiscard]] double root_of(double radicand);
 
   Window& window_;
   EntryPanel& panel_;

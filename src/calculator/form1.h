@@ -60,9 +60,9 @@ class Form1 final : public Window, private EntryPanel {
   Button cmdinv{*this, "cmdinv", u"INV", u" Inverse Mode "};
   Button cmddeg{*this, "cmddeg", u"", u" Switch between Deg/Rad Mode "};
   /// 1 in inverse mode.
-  CheckBox Check1{*this, "Check1", u"inv", parked};
+  CheckBox Check1{*this, "Check1", u"inv", hidden};
   /// 1 for degrees, 0 for radians.
-  CheckBox Check2{*this, "Check2", u"deg", parked};
+  CheckBox Check2{*this, "Check2", u"deg", hidden};
 
   /// The other keys that work on the displayed number.
   Button cmdconv{*this, "cmdconv", u"", u"Convert Deg to Rad and viceversa"};
@@ -78,7 +78,7 @@ class Form1 final : public Window, private EntryPanel {
   Button cmdMemory1{*this, "cmdMemory1", u"MS", u" Add to memory "};
   Button cmdMemory2{*this, "cmdMemory2", u"MR", u" Recall memory "};
   Button cmdMemory3{*this, "cmdMemory3", u"MC", u" Clear memory "};
-  Label lblMemory1{*this, "lblMemory1", parked};
+  Label lblMemory1{*this, "lblMemory1", hidden};
   Label Label2{*this, "Label2", u"M"};
   Timer Timer1{*this, "Timer1", false};
 
@@ -86,12 +86,12 @@ class Form1 final : public Window, private EntryPanel {
   Image imc{*this, "imc", u"complex", u" Complex Mode "};
   Image imev{*this, "imev", u"evaluator", u" Evaluator "};
   Image img{*this, "img", u"graph", u" Graph Mode "};
-  Image im1c{*this, "im1c", u"complex", u"", parked};
-  Image im1cd{*this, "im1cd", u"complex-pressed", u"", parked};
-  Image im1ev{*this, "im1ev", u"evaluator", u"", parked};
-  Image im1evd{*this, "im1evd", u"evaluator-pressed", u"", parked};
-  Image im1g{*this, "im1g", u"graph", u"", parked};
-  Image im1gd{*this, "im1gd", u"graph-pressed", u"", parked};
+  Image im1c{*this, "im1c", u"complex", u"", hidden};
+  Image im1cd{*this, "im1cd", u"complex-pressed", u"", hidden};
+  Image im1ev{*this, "im1ev", u"evaluator", u"", hidden};
+  Image im1evd{*this, "im1evd", u"evaluator-pressed", u"", hidden};
+  Image im1g{*this, "im1g", u"graph", u"", hidden};
+  Image im1gd{*this, "im1gd", u"graph-pressed", u"", hidden};
   Button cmdExit{*this, "cmdExit"};
 
   /// n!, by recursion. Tells the person about an n below 0 or above 170 and gives 0 for it.

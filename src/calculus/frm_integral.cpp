@@ -96,8 +96,4 @@ void frmIntegral::rewrite() {
   Text16.Text = Text{last.replacement};
 }
 
-Text frmIntegral::replace_all(const Text& text, const Text& find, const Text& replacement) const {
-  return tarnmill::ReplaceAll(text, find, replacement);
-}
-
 }  // namespace tarnmill

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/text.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
 #include "forms/frame.h"
@@ -38,8 +39,6 @@ class frmIntegral final : public Window {
   void tangent() { cmdTangenta_Click(); }
   /// Empties fields and results.
   void empty_fields();
-  /// One pass of exact replacement.
-  [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
   ///@}
 
   /// The ground of the window, on which the bars stand.
@@ -83,13 +82,13 @@ class frmIntegral final : public Window {
   TextBox Text12{*this, "Text12", parked};
   TextBox Text13{*this, "Text13", parked};
   TextBox Text14{*this, "Text14", parked};
-  TextBox Text15{*this, "Text15", parked};
-  TextBox Text16{*this, "Text16", parked};
-  TextBox Text17{*this, "Text17", parked};
-  TextBox Text18{*this, "Text18", parked};
+  TextBox Text15{*this, "Text15", hidden};
+  TextBox Text16{*this, "Text16", hidden};
+  TextBox Text17{*this, "Text17", hidden};
+  TextBox Text18{*this, "Text18", hidden};
   TextBox Text19{*this, "Text19", parked};
-  TextBox txtk{*this, "txtk", u"K", parked};
-  TextBox txtX{*this, "txtX", u"x", parked};
+  TextBox txtk{*this, "txtk", u"K", hidden};
+  TextBox txtX{*this, "txtX", u"x", hidden};
   ///@}
 
   ServiceControl Evaluator1{*this, "Evaluator1"};
@@ -112,7 +111,7 @@ class frmIntegral final : public Window {
   Procedure zam{*this, "zam", &frmIntegral::rewrite};
   Procedure tanga{*this, "tanga", &frmIntegral::tangent};
   Procedure brisi{*this, "brisi", &frmIntegral::empty_fields};
-  Procedure ReplaceAll{*this, "ReplaceAll", &frmIntegral::replace_all};
+  Procedure ReplaceAll{*this, "ReplaceAll", &tarnmill::ReplaceAll};
 
  private:
   void connect_commands();
@@ -145,18 +144,18 @@ class frmIntegral final : public Window {
 
   /// \name The two looks of each picture
   ///@{
-  Image imintg{*this, "imintg", u"integral", {}, parked};
-  Image imintd{*this, "imintd", u"integral-pressed", {}, parked};
-  Image imsg{*this, "imsg", u"average", {}, parked};
-  Image imsd{*this, "imsd", u"average-pressed", {}, parked};
-  Image imdiffg{*this, "imdiffg", u"derivative", {}, parked};
-  Image imdiffd{*this, "imdiffd", u"derivative-pressed", {}, parked};
-  Image imcopyg{*this, "imcopyg", u"copy", {}, parked};
-  Image imcopyd{*this, "imcopyd", u"copy-pressed", {}, parked};
-  Image imc{*this, "imc", u"close", {}, parked};
-  Image imclose{*this, "imclose", u"close-pressed", {}, parked};
-  Image imcm{*this, "imcm", u"minimise", {}, parked};
-  Image imcmin{*this, "imcmin", u"minimise-pressed", {}, parked};
+  Image imintg{*this, "imintg", u"integral", {}, hidden};
+  Image imintd{*this, "imintd", u"integral-pressed", {}, hidden};
+  Image imsg{*this, "imsg", u"average", {}, hidden};
+  Image imsd{*this, "imsd", u"average-pressed", {}, hidden};
+  Image imdiffg{*this, "imdiffg", u"derivative", {}, hidden};
+  Image imdiffd{*this, "imdiffd", u"derivative-pressed", {}, hidden};
+  Image imcopyg{*this, "imcopyg", u"copy", {}, hidden};
+  Image imcopyd{*this, "imcopyd", u"copy-pressed", {}, hidden};
+  Image imc{*this, "imc", u"close", {}, hidden};
+  Image imclose{*this, "imclose", u"close-pressed", {}, hidden};
+  Image imcm{*this, "imcm", u"minimise", {}, hidden};
+  Image imcmin{*this, "imcmin", u"minimise-pressed", {}, hidden};
   PictureKey integral_key_{imint, imintg, imintd};
   PictureKey average_key_{ims, imsg, imsd};
   PictureKey derivative_key_{imdiff, imdiffg, imdiffd};

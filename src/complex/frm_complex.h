@@ -74,10 +74,10 @@ class frmComplex final : public Window, private EntryPanel {
   TextBox txtCc{*this, "txtCc", u"0."};
   TextBox txtCd{*this, "txtCd", u"0."};
   /// One of them is 1: that of the field that takes the digits.
-  CheckBox checka{*this, "checka", u"", parked};
-  CheckBox checkb{*this, "checkb", u"", parked};
-  CheckBox checkc{*this, "checkc", u"", parked};
-  CheckBox checkd{*this, "checkd", u"", parked};
+  CheckBox checka{*this, "checka", u"", hidden};
+  CheckBox checkb{*this, "checkb", u"", hidden};
+  CheckBox checkc{*this, "checkc", u"", hidden};
+  CheckBox checkd{*this, "checkd", u"", hidden};
   Button cmda{*this, "cmda", u"a", u" Real of Complex 1 "};
   Button cmdb{*this, "cmdb", u"b", u" Imaginary of Complex1 "};
   Button cmdc{*this, "cmdc", u"c", u"  Real of Complex 2  "};
@@ -89,15 +89,15 @@ class frmComplex final : public Window, private EntryPanel {
 
   /// \name Entry
   ///@{
-  Label Readout{*this, "Readout", parked};
+  Label Readout{*this, "Readout", hidden};
   Label lblRunning{*this, "lblRunning", parked};
   ControlArray<Button> Number{*this, "Number", 0, 9};
   Button Decimal{*this, "Decimal", u"."};
   Button cmdPlusMinus{*this, "cmdPlusMinus", u"+/-"};
   Button CancelEntry{*this, "CancelEntry", u"CE", u" Clear last entry "};
   Button cmdClearAll{*this, "cmdClearAll", u"AC", u" Clear All "};
-  CheckBox Check1{*this, "Check1", u"inv", parked};
-  CheckBox Check2{*this, "Check2", u"deg", parked};
+  CheckBox Check1{*this, "Check1", u"inv", hidden};
+  CheckBox Check2{*this, "Check2", u"deg", hidden};
   ///@}
 
   /// \name The function and the result
@@ -142,9 +142,9 @@ class frmComplex final : public Window, private EntryPanel {
   Field<Variant> ComplexMemory{*this, "ComplexMemory"};
   Button cmdMemory1{*this, "cmdMemory1", u"MS"};
   Button cmdMemory3{*this, "cmdMemory3", u"MC"};
-  TextBox txtmemoryReal{*this, "txtmemoryReal", parked};
-  TextBox txtmemoryImaginar{*this, "txtmemoryImaginar", parked};
-  Label lblMemory1{*this, "lblMemory1", parked};
+  TextBox txtmemoryReal{*this, "txtmemoryReal", hidden};
+  TextBox txtmemoryImaginar{*this, "txtmemoryImaginar", hidden};
+  Label lblMemory1{*this, "lblMemory1", hidden};
   Label Label4{*this, "Label4", u"M"};
   Timer Timer1{*this, "Timer1", false};
   ///@}
@@ -156,12 +156,12 @@ class frmComplex final : public Window, private EntryPanel {
   Image Image11{*this, "Image11", u"advanced", u" Advanced Mode "};
   Image imev{*this, "imev", u"evaluator", u" Evaluator "};
   Image img{*this, "img", u"graph", u" Graph Mode "};
-  Image im1a{*this, "im1a", u"advanced", u"", parked};
-  Image im1ad{*this, "im1ad", u"advanced-pressed", u"", parked};
-  Image im1ev{*this, "im1ev", u"evaluator", u"", parked};
-  Image im1evd{*this, "im1evd", u"evaluator-pressed", u"", parked};
-  Image im1g{*this, "im1g", u"graph", u"", parked};
-  Image im1gd{*this, "im1gd", u"graph-pressed", u"", parked};
+  Image im1a{*this, "im1a", u"advanced", u"", hidden};
+  Image im1ad{*this, "im1ad", u"advanced-pressed", u"", hidden};
+  Image im1ev{*this, "im1ev", u"evaluator", u"", hidden};
+  Image im1evd{*this, "im1evd", u"evaluator-pressed", u"", hidden};
+  Image im1g{*this, "im1g", u"graph", u"", hidden};
+  Image im1gd{*this, "im1gd", u"graph-pressed", u"", hidden};
   ///@}
 
   /// \name Procedures by name

@@ -7,8 +7,12 @@
 #include <QUrl>
 #include <QtEndian>
 #include <algorithm>
+#include <optional>
+#include <string>
 
 #include "desktop/metafile.h"
+#include "engine/fault.h"
+#include "forms/files.h"
 
 namespace tarnmill::desktop {
 
@@ -87,6 +91,14 @@ QImage frame(QSize size) {
   return image;
 }
 
+std::optional<std::string> encoded(const QImage& image, const char* format) {
+  QByteArray bytes;
+  QBuffer buffer{&bytes};
+  buffer.open(QIODevice::WriteOnly);
+  if (!image.save(&buffer, format)) return std::nullopt;
+  return bytes.toStdString();
+}
+
 }  // namespace
 
 QImage image_of(const rtf::Picture& picture) {
@@ -95,13 +107,9 @@ QImage image_of(const rtf::Picture& picture) {
 }
 
 rtf::Picture picture_of(const QImage& image) {
-  QByteArray bytes;
-  QBuffer buffer{&bytes};
-  buffer.open(QIODevice::WriteOnly);
-  image.save(&buffer, "PNG");
   const auto twips = [](int pixels) { return std::min(pixels * twips_per_pixel, rtf::longest_length); };
   return {.kind = rtf::PictureKind::png,
-          .bytes = bytes.toStdString(),
+          .bytes = encoded(image, "PNG").value_or(std::string{}),
           .width = twips(image.width()),
           .height = twips(image.height())};
 }
@@ -115,6 +123,17 @@ QImage load_image(const std::filesystem::path& path) {
   QImage image = reader.read();
   if (!image.isNull() || !file.seek(0)) return image;
   return play_metafile(file.readAll());
+}
+
+bool save_image(const QImage& image, const std::filesystem::path& path, const char* format) {
+  const std::optional<std::string> bytes = encoded(image, format);
+  if (!bytes) return false;
+  try {
+    write_file(path, *bytes);
+  } catch (const Fault&) {
+    return false;
+  }
+  return true;
 }
 
 QString keep_picture(QTextDocument& document, PictureStore& pictures, const rtf::Picture& picture,

@@ -17,6 +17,9 @@ namespace tarnmill::desktop {
 /// The image of a file: a bitmap, JPEG, GIF or PNG, or a metafile. Null when it can't be read.
 [[nodiscard]] QImage load_image(const std::filesystem::path& path);
 
+/// Writes an image in a format of the toolkit ("BMP", "PNG"), whole or not at all; false when it can't be.
+[[nodiscard]] bool save_image(const QImage& image, const std::filesystem::path& path, const char* format);
+
 /// Makes a picture known to a document and gives the name that stands for it there.
 QString keep_picture(QTextDocument& document, PictureStore& pictures, const rtf::Picture& picture,
                      const QImage& image);

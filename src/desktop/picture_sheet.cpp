@@ -1,9 +1,7 @@
 #include "desktop/picture_sheet.h"
 
-#include <QFile>
 #include <QFontMetrics>
 #include <QPainter>
-#include <QSaveFile>
 
 #include "desktop/picture_data.h"
 #include "desktop/qt_text.h"
@@ -54,8 +52,7 @@ bool save_picture_sheet(const std::filesystem::path& path, const std::vector<She
   }
   painter.end();
 
-  QSaveFile file{QFile::decodeName(path.c_str())};
-  return file.open(QIODevice::WriteOnly) && sheet.save(&file, "PNG") && file.commit();
+  return save_image(sheet, path, "PNG");
 }
 
 }  // namespace tarnmill::desktop

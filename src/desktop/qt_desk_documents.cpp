@@ -4,6 +4,8 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -38,19 +40,34 @@ std::unique_ptr<QTextDocument> laid_out(const QTextDocument& document, QPrinter&
   return pages;
 }
 
+/// Draws the lines whose middle lies between the two heights, beginning in a paragraph, and gives the
+/// paragraph to go on with. The toolkit's own drawing takes in a line of the page before, which is cut off
+/// from sight, but there for whoever reads the text of a page.
+QTextBlock draw_lines(QPainter& painter, QTextBlock block, double top, double bottom) {
+  const QAbstractTextDocumentLayout& layout = *block.document()->documentLayout();
+  for (; block.isValid(); block = block.next()) {
+    const QRectF place = layout.blockBoundingRect(block);
+    for (int i = 0; i < block.layout()->lineCount(); ++i) {
+      const QTextLine line = block.layout()->lineAt(i);
+      const double middle = place.top() + line.rect().center().y();
+      if (middle >= top && middle < bottom) line.draw(&painter, place.topLeft());
+    }
+    if (place.bottom() > bottom) break;
+  }
+  return block;
+}
+
 void print_pages(QPrinter& printer, const QTextDocument& pages, const QRectF& area) {
   QPainter painter;
   if (!painter.begin(&printer)) throw Fault{FaultCode::PrinterError};
-  QAbstractTextDocumentLayout::PaintContext context;
-  context.palette.setColor(QPalette::Text, Qt::black);
+  painter.setPen(Qt::black);
+  QTextBlock next = pages.begin();
   for (int i = 0; i < pages.pageCount(); ++i) {
     if (i > 0 && !printer.newPage()) throw Fault{FaultCode::PrinterError};
     painter.save();
     painter.translate(area.left(), area.top() - i * area.height());
-    // A dot less, since a line that begins where the page ends would count as within.
-    context.clip = QRectF{0, i * area.height(), area.width(), area.height() - 1};
-    painter.setClipRect(context.clip);
-    pages.documentLayout()->draw(&painter, context);
+    painter.setClipRect(QRectF{0, i * area.height(), area.width(), area.height()});
+    if (next.isValid()) next = draw_lines(painter, next, i * area.height(), (i + 1) * area.height());
     painter.restore();
   }
   if (!painter.end()) throw Fault{FaultCode::PrinterError};

@@ -2,22 +2,13 @@
 
 #include <QFile>
 #include <QPainter>
-#include <QSaveFile>
 #include <utility>
 
 #include "desktop/line_walk.h"
+#include "desktop/picture_data.h"
 #include "desktop/raster_text.h"
 
 namespace tarnmill::desktop {
-
-namespace {
-
-bool write_image(const QImage& image, const std::filesystem::path& path, const char* format) {
-  QSaveFile file{QFile::decodeName(path.c_str())};
-  return file.open(QIODevice::WriteOnly) && image.save(&file, format) && file.commit();
-}
-
-}  // namespace
 
 QRgb to_qt(Color color) { return qRgb(red_of(color), green_of(color), blue_of(color)); }
 
@@ -67,11 +58,11 @@ void QtRaster::paste(const Raster& other) {
 
 bool QtRaster::save(const std::filesystem::path& path) const {
   const bool png = QFile::decodeName(path.c_str()).endsWith(".png", Qt::CaseInsensitive);
-  return write_image(image_, path, png ? "PNG" : "BMP");
+  return save_image(image_, path, png ? "PNG" : "BMP");
 }
 
 bool QtRaster::save_bitmap(const std::filesystem::path& path) const {
-  return write_image(image_, path, "BMP");
+  return save_image(image_, path, "BMP");
 }
 
 QRect QtRaster::take_changed() const { return std::exchange(changed_, QRect{}); }

@@ -35,6 +35,8 @@ void QtRichText::watch_document() {
 }
 
 void QtRichText::replace_document(std::unique_ptr<QTextDocument> fresh, PictureStore pictures, bool changes) {
+  const QTextCharFormat characters = cursor_.charFormat();
+  const Qt::Alignment alignment = cursor_.blockFormat().alignment();
   edit([&] {
     // The one before goes when no editor shows it any longer.
     document_.swap(fresh);
@@ -44,14 +46,18 @@ void QtRichText::replace_document(std::unique_ptr<QTextDocument> fresh, PictureS
     kinds_.clear();
     if (on_document) on_document();
     text_changed_ = changes;
+    format_changed_ = cursor_.charFormat() != characters || cursor_.blockFormat().alignment() != alignment;
   });
 }
 
 QtRichText::~QtRichText() = default;
 
 void QtRichText::note_kind(int kind) {
+  if (kind == of_history) return;
   const auto steps = static_cast<std::size_t>(document_->availableUndoSteps());
-  const auto undone = static_cast<std::size_t>(document_->availableRedoSteps());
+  // The toolkit leaves the next one out.
+  const auto undone =
+      static_cast<std::size_t>(document_->isRedoAvailable() ? document_->availableRedoSteps() + 1 : 0);
   if (text_changed_ && undone == 0 && steps > 0) kinds_.resize(steps - 1);
   kinds_.resize(steps + undone, kind);
 }
@@ -68,7 +74,7 @@ int QtRichText::redo_kind() const {
 
 void QtRichText::raise_changes(int start, int length) {
   const bool changed = std::exchange(text_changed_, false);
-  const bool moved = start != sel_start() || length != sel_length();
+  const bool moved = std::exchange(format_changed_, false) || start != sel_start() || length != sel_length();
   if (changed && on_change) on_change();
   if (moved && on_selection) on_selection();
 }
@@ -77,14 +83,14 @@ void QtRichText::follow(const QTextCursor& cursor) {
   edit([&] { cursor_ = cursor; }, text_removed_only_ ? deleting : typing);
 }
 
-Text QtRichText::text() const { return lines_from_qt(document_->toPlainText()); }
+Text QtRichText::text() const { return lines_from_qt(document_->toRawText()); }
 
 void QtRichText::set_text(const Text& text) {
   std::unique_ptr<QTextDocument> fresh = make_document();
   fresh->setUndoRedoEnabled(false);
   fresh->setPlainText(lines_to_qt(text));
-  const bool changes = fresh->characterCount() != document_->characterCount() ||
-                       fresh->toPlainText() != document_->toPlainText();
+  const bool changes =
+      fresh->characterCount() != document_->characterCount() || fresh->toRawText() != document_->toRawText();
   replace_document(std::move(fresh), {}, changes);
 }
 
@@ -106,15 +112,20 @@ void QtRichText::select(int start, int length) {
 Text QtRichText::sel_text() const { return lines_from_qt(cursor_.selectedText()); }
 
 void QtRichText::replace_selection(const Text& text) {
-  edit([&] { cursor_.insertText(lines_to_qt(text)); });
+  edit([&] {
+    // A block of its own, or the toolkit would make one step of this edit and the one before.
+    cursor_.beginEditBlock();
+    cursor_.insertText(lines_to_qt(text));
+    cursor_.endEditBlock();
+  });
 }
 
 void QtRichText::undo() {
-  edit([&] { document_->undo(&cursor_); });
+  edit([&] { document_->undo(&cursor_); }, of_history);
 }
 
 void QtRichText::redo() {
-  edit([&] { document_->redo(&cursor_); });
+  edit([&] { document_->redo(&cursor_); }, of_history);
 }
 
 bool QtRichText::can_undo() const { return document_->isUndoAvailable(); }
@@ -134,11 +145,21 @@ void QtRichText::select_line() {
   });
 }
 
+QTextCursor QtRichText::find_unseen(const QString& text, int start, QTextDocument::FindFlags flags) {
+  // Outside of an edit the toolkit lays out the whole paragraph of each place that it finds.
+  const bool changed = text_changed_;
+  cursor_.beginEditBlock();
+  const QTextCursor found = document_->find(text, start, flags);
+  cursor_.endEditBlock();
+  text_changed_ = changed;
+  return found;
+}
+
 int QtRichText::find(const Text& text, int start, bool whole_word, bool match_case) {
   QTextDocument::FindFlags flags;
   if (whole_word) flags |= QTextDocument::FindWholeWords;
   if (match_case) flags |= QTextDocument::FindCaseSensitively;
-  const QTextCursor found = document_->find(lines_to_qt(text), std::clamp(start, 0, length()), flags);
+  const QTextCursor found = find_unseen(lines_to_qt(text), std::clamp(start, 0, length()), flags);
   if (found.isNull()) return -1;
   edit([&] { cursor_ = found; });
   return sel_start();

@@ -103,6 +103,8 @@ class QtRichText final : public RichText {
   void watch_document();
   void merge(const QTextCharFormat& format);
   void insert_rtf(std::string_view bytes, int kind);
+  /// The next place of a text, null for none. Changes nothing.
+  [[nodiscard]] QTextCursor find_unseen(const QString& text, int start, QTextDocument::FindFlags flags);
   /// The parts of one format in the selection: position and length.
   [[nodiscard]] std::vector<std::pair<int, int>> selected_parts() const;
   using FormatVisitor = std::function<bool(const QTextCharFormat&)>;
@@ -114,6 +116,8 @@ class QtRichText final : public RichText {
   template <class Value>
   [[nodiscard]] auto common(Value&& value) const -> std::optional<decltype(value(QTextCharFormat{}))>;
 
+  /// Undo and redo themselves, which make no step.
+  static constexpr int of_history = -1;
   /// The kinds of edits that undo and redo tell.
   static constexpr int any_edit = 0;
   static constexpr int typing = 1;
@@ -129,6 +133,8 @@ class QtRichText final : public RichText {
   std::vector<int> kinds_;
   bool text_changed_ = false;
   bool text_removed_only_ = false;
+  /// The caret stands in other formats than before, though it may not have moved.
+  bool format_changed_ = false;
   QObject context_;
 };
 

@@ -4,7 +4,6 @@
 #include <QImage>
 #include <QMimeData>
 #include <QTextBlock>
-#include <QTextDocumentFragment>
 #include <QTextFragment>
 #include <algorithm>
 #include <memory>
@@ -37,7 +36,7 @@ void QtRichText::set_default_font(const Text& name, double size) {
   text_changed_ = false;
 }
 
-std::string QtRichText::rtf() const { return rtf::write(export_rtf(*document_, 0, length(), pictures_)); }
+std::string QtRichText::rtf() const { return rtf::write(export_rtf(*document_, pictures_)); }
 
 std::string QtRichText::sel_rtf() const {
   return rtf::write(export_rtf(*document_, cursor_.selectionStart(), cursor_.selectionEnd(), pictures_));
@@ -83,6 +82,7 @@ std::vector<std::pair<int, int>> QtRichText::selected_parts() const {
 }
 
 void QtRichText::change_selection(const std::function<Text(TextView)>& change) {
+  if (!cursor_.hasSelection()) return;
   edit([&] {
     const int start = cursor_.selectionStart();
     const int end = cursor_.selectionEnd();
@@ -109,7 +109,7 @@ void QtRichText::cut() {
 void QtRichText::copy() {
   if (!cursor_.hasSelection()) return;
   auto content = std::make_unique<QMimeData>();
-  content->setText(cursor_.selection().toPlainText());
+  content->setText(to_qt(sel_text()));
   content->setData(rtf_type, bytes_of(sel_rtf()));
   QGuiApplication::clipboard()->setMimeData(content.release());
 }

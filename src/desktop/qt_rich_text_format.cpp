@@ -156,6 +156,7 @@ std::optional<int> QtRichText::sel_alignment() const {
 }
 
 void QtRichText::set_sel_alignment(int alignment) {
+  if (sel_alignment() == alignment) return;
   QTextBlockFormat format;
   set_alignment(format, alignment);
   cursor_.mergeBlockFormat(format);

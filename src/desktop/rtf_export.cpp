@@ -17,20 +17,21 @@ constexpr double twips_per_half_point = 10;
 
 std::int32_t rounded(double value) { return static_cast<std::int32_t>(std::lround(value)); }
 
+enum class LastParagraph { ended, open };
+
 class Export {
  public:
   Export(const QTextDocument& document, const PictureStore& pictures)
       : document_{document}, pictures_{pictures} {}
 
-  rtf::Document run(int start, int end) && {
+  rtf::Document run(int start, int end, LastParagraph last) && {
     QTextBlock block = document_.findBlock(start);
     for (; block.isValid() && block.position() <= end; block = block.next()) {
       add_text(block, start, end);
       const auto format = builder_.paragraph_format(paragraph_format(block.blockFormat()));
       const auto end_format = index_of(block.charFormat());
       const bool is_last = end < block.position() + block.length();
-      const bool ends_within = is_last && end < document_.characterCount() - 1;
-      if (is_last && ends_within) {
+      if (is_last && last == LastParagraph::open) {
         if (builder_.is_unended()) builder_.leave_open(format, end_format);
       } else {
         builder_.end_paragraph(format, end_format);
@@ -114,8 +115,12 @@ class Export {
 
 }  // namespace
 
+rtf::Document export_rtf(const QTextDocument& document, const PictureStore& pictures) {
+  return Export{document, pictures}.run(0, document.characterCount() - 1, LastParagraph::ended);
+}
+
 rtf::Document export_rtf(const QTextDocument& document, int start, int end, const PictureStore& pictures) {
-  return Export{document, pictures}.run(start, end);
+  return Export{document, pictures}.run(start, end, LastParagraph::open);
 }
 
 }  // namespace tarnmill::desktop

@@ -6,8 +6,9 @@
 
 namespace tarnmill::desktop {
 
-/// The positions `start` to `end` of a document of the toolkit as plain data. Its last paragraph is left open
-/// when the part ends within one.
+/// A document of the toolkit as plain data.
+[[nodiscard]] rtf::Document export_rtf(const QTextDocument& document, const PictureStore& pictures);
+/// The positions `start` to `end` of it. The last paragraph is left open, since its end is not part of them.
 [[nodiscard]] rtf::Document export_rtf(const QTextDocument& document, int start, int end,
                                        const PictureStore& pictures);
 

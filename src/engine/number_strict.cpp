@@ -5,7 +5,6 @@
 #include "engine/fault.h"
 #include "engine/number_parts.h"
 #include "engine/number_text.h"
-#include "engine/parity.h"
 
 namespace tarnmill {
 namespace {
@@ -43,25 +42,10 @@ class StrictReader {
     if (take() == u'-') parts_.plain += '-';
   }
 
-  // Whether a group separator stands here between two digits.
-  [[nodiscard]] bool at_group(bool behind_digit) const {
-    return behind_digit && front() == regional_.group_separator() && rest_.size() > 1 &&
-           IsDigitValue(rest_[1]);
-  }
-
   bool take_digits(int base) {
     const std::size_t before = rest_.size();
     while (detail::digit_value(front(), base) >= 0) parts_.plain += static_cast<char>(take());
     return rest_.size() < before;
-  }
-
-  bool take_whole_part() {
-    bool any = take_digits(10);
-    while (at_group(any)) {
-      take();
-      any = take_digits(10);
-    }
-    return any;
   }
 
   bool take_prefixed() {
@@ -74,7 +58,7 @@ class StrictReader {
 
   bool take_decimal() {
     take_sign();
-    bool any = take_whole_part();
+    bool any = take_digits(10);
     if (front() == regional_.decimal_separator) {
       take();
       parts_.plain += '.';

@@ -14,13 +14,13 @@ namespace tarnmill {
 double NumberFromText(TextView text);
 
 /// True when the whole text is one number by the regional settings: blanks around it, one sign in front,
-/// digits with one decimal separator, the group separator between two digits of the whole part, an exponent
-/// (E or D) with at least one digit; or "&H", "&O" and digits. At least one digit of the mantissa is needed,
-/// so of the single characters exactly the ten digits are numeric.
+/// digits with one decimal separator, an exponent (E or D) with at least one digit; or "&H", "&O" and digits.
+/// Digits are not grouped. At least one digit of the mantissa is needed, so of the single characters exactly
+/// the ten digits are numeric.
 bool IsNumericText(TextView text, const Regional& regional);
 
-/// The value of a text for which IsNumericText holds; group separators are passed over. Type-mismatch for any
-/// other text, the empty one included; Overflow beyond the range.
+/// The value of a text for which IsNumericText holds. Type-mismatch for any other text, the empty one
+/// included; Overflow beyond the range.
 double NumberFromTextStrict(TextView text, const Regional& regional);
 
 /// The general conversion: at most 15 significant digits, plain form for decimal exponents -4 to 14,

@@ -21,7 +21,10 @@ class CheckBox final : public Control {
 
  protected:
   void property_changed(const PropertyBase& property) override {
-    if (&property == &Value) Click.raise();
+    if (&property != &Value) return;
+    // True, which is -1, ticks it as well.
+    if (Value < 0) Value.start_as(1);
+    Click.raise();
   }
 };
 

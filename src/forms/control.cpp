@@ -18,6 +18,9 @@ Text without_blanks_around(const Text& text) {
 
 Control::Control(Window& window, std::string_view name, Place place)
     : Node{name}, window_{window}, place_{place} {
+  constexpr double beyond_any_window = 30000;
+  Visible.start_as(place != Place::hidden);
+  if (only_holds_state()) Left.start_as(beyond_any_window);
   window.add(*this);
 }
 

@@ -9,10 +9,12 @@
 
 namespace tarnmill {
 
-/// Whether a control stands on its window or only holds state and has no place on the screen.
-enum class Place { on_window, parked };
-/// Shorthand for declarations of state holders: `TextBox txtYs{*this, "txtYs", parked};`
+/// Whether a control stands on its window or only holds state and has no place on the screen: parked beyond
+/// the edge of its window, or hidden, which its `Visible` tells.
+enum class Place { on_window, parked, hidden };
+/// Shorthands for declarations of state holders: `TextBox txtYs{*this, "txtYs", parked};`
 inline constexpr Place parked = Place::parked;
+inline constexpr Place hidden = Place::hidden;
 
 /// What a control has in common with all others. Lengths are twips, 15 to the pixel.
 class Control : public Node {
@@ -21,7 +23,7 @@ class Control : public Node {
   ~Control() override;
 
   [[nodiscard]] Window& window() override { return window_; }
-  [[nodiscard]] bool is_parked() const { return place_ == Place::parked; }
+  [[nodiscard]] bool only_holds_state() const { return place_ != Place::on_window; }
 
   /// The index in its control array, or -1 outside of one.
   [[nodiscard]] int index() const { return index_; }

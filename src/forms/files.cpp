@@ -68,7 +68,9 @@ bool replace_file(const fs::path& path, std::string_view bytes) {
 std::string read_file(const fs::path& path) {
   std::error_code error;
   std::ifstream file{path, std::ios::binary};
-  if (!file || fs::is_directory(path, error)) throw Fault{fault_file_not_found, u"File not found"};
+  // A device may have no end.
+  if (!file || fs::is_directory(path, error) || fs::is_character_file(path, error))
+    throw Fault{fault_file_not_found, u"File not found"};
   std::string bytes{std::istreambuf_iterator<char>{file}, {}};
   if (file.bad()) throw Fault{fault_file_not_found, u"File not found"};
   return bytes;

@@ -4,8 +4,8 @@ namespace tarnmill {
 
 class Workbench;
 
-/// Marks that a handler of the program runs. Windows unload within their own handlers, so an unloaded
-/// window is destroyed only when the outermost scope ends.
+/// Marks that a handler or procedure of the program runs. Windows unload within their own handlers, so an
+/// unloaded window is destroyed only when the outermost scope ends.
 class HandlerScope {
  public:
   explicit HandlerScope(Workbench& workbench);
@@ -15,6 +15,7 @@ class HandlerScope {
 
  private:
   Workbench& workbench_;
+  int exceptions_before_;
 };
 
 }  // namespace tarnmill

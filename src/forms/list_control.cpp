@@ -1,5 +1,6 @@
 #include "forms/list_control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "engine/fault.h"
@@ -33,6 +34,12 @@ void ListControl::choose(int index) {
   }
 }
 
+void ListControl::follow_text() {
+  if (List(ListIndex) == Text.get()) return;
+  const auto entry = std::find(items_.begin(), items_.end(), Text.get());
+  ListIndex.start_as(entry == items_.end() ? -1 : static_cast<int>(entry - items_.begin()));
+}
+
 void ListControl::property_changed(const PropertyBase& property) {
   if (&property == &ListIndex) {
     if (ListIndex >= static_cast<int>(items_.size()) || ListIndex < -1) {
@@ -44,6 +51,7 @@ void ListControl::property_changed(const PropertyBase& property) {
       Click.raise();
     }
   } else if (&property == &Text) {
+    follow_text();
     Change.raise();
   }
 }

@@ -7,7 +7,8 @@
 namespace tarnmill {
 
 /// A list to choose from: what combo boxes and list boxes share. Indices count from 0; -1 is no choice.
-/// A new ListIndex takes the entry's text and raises Click.
+/// A new ListIndex takes the entry's text and raises Click. A text that is set chooses the first entry that
+/// reads so, without a Click.
 class ListControl : public Control {
  public:
   ListControl(Window& window, std::string_view name, Place place = Place::on_window);
@@ -34,6 +35,8 @@ class ListControl : public Control {
   void property_changed(const PropertyBase& property) override;
 
  private:
+  void follow_text();
+
   std::vector<tarnmill::Text> items_;
 };
 

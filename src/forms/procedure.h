@@ -11,6 +11,7 @@
 #include "engine/fault.h"
 #include "engine/variant.h"
 #include "forms/conversion.h"
+#include "forms/handler_scope.h"
 #include "forms/window.h"
 
 namespace tarnmill {
@@ -25,9 +26,14 @@ class Procedure final {
   template <class W, class R, class... Args>
   Procedure(W& window, std::string_view name, R (W::*member)(Args...) const)
       : Procedure{window, name, sizeof...(Args), wrap<R, Args...>(window, member)} {}
+  /// A helper that a window offers under its own name and that knows no window.
+  template <class R, class... Args>
+  Procedure(Window& window, std::string_view name, R (*function)(Args...))
+      : Procedure{window, name, sizeof...(Args), wrap_free(window, function)} {}
   /// One without arguments and result, for names that come from data; they must outlive it.
   Procedure(Window& window, std::string_view name, std::function<void()> action)
-      : Procedure{window, name, 0, [action = std::move(action)](std::span<const Variant>) {
+      : Procedure{window, name, 0, [&window, action = std::move(action)](std::span<const Variant>) {
+                    const HandlerScope scope{window.bench()};
                     action();
                     return Variant{};
                   }} {}
@@ -44,6 +50,9 @@ class Procedure final {
 
  private:
   using Call = std::function<Variant(std::span<const Variant>)>;
+  /// A view needs a text that lives as long as the call.
+  template <class Arg>
+  using Held = std::conditional_t<std::is_same_v<Arg, TextView>, Text, Arg>;
 
   Procedure(Window& window, std::string_view name, std::size_t arity, Call call)
       : name_{name}, arity_{arity}, call_{std::move(call)} {
@@ -52,10 +61,21 @@ class Procedure final {
 
   template <class R, class... Args, class W, class M>
   static Call wrap(W& window, M member) {
-    return [&window, member](std::span<const Variant> arguments) -> Variant {
+    return wrap_call<R, Args...>(window,
+                                 [&window, member](auto&... args) -> R { return (window.*member)(args...); });
+  }
+
+  template <class R, class... Args>
+  static Call wrap_free(Window& window, R (*function)(Args...)) {
+    return wrap_call<R, Held<Args>...>(window, [function](auto&... args) -> R { return function(args...); });
+  }
+
+  template <class R, class... Args, class F>
+  static Call wrap_call(Window& window, F call) {
+    return [&window, call](std::span<const Variant> arguments) -> Variant {
       if (arguments.size() < sizeof...(Args)) throw Fault{FaultCode::InvalidArgument};
-      const auto call = [&](auto&... args) -> R { return (window.*member)(args...); };
       auto values = convert<Args...>(arguments, window.regional(), std::index_sequence_for<Args...>{});
+      const HandlerScope scope{window.bench()};
       if constexpr (std::is_void_v<R>) {
         std::apply(call, values);
         return {};

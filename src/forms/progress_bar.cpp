@@ -8,7 +8,9 @@ void ProgressBar::advance_to(double value) {
   if (!(value >= Min && value <= Max)) {
     throw Fault{fault_invalid_property_value, u"Invalid property value"};
   }
-  Value = value;
+  if (value == value_) return;
+  value_ = value;
+  Value.changed();
 }
 
 }  // namespace tarnmill

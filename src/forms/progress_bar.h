@@ -15,10 +15,16 @@ class ProgressBar final : public Control {
 
   Property<double> Min{*this, "Min", 0};
   Property<double> Max{*this, "Max", 100};
-  Property<double> Value{*this, "Value", 0};
+  /// Between Min and Max; fault 380 for a value outside of them, which leaves the bar as it was.
+  ComputedProperty Value{*this, "Value", [this] { return Variant{value_}; },
+                         [this](const Variant& value) { advance_to(value.to_number(regional())); }};
 
-  /// Sets Value. Raises fault 380 for one outside of Min to Max, and leaves the bar as it was.
+  [[nodiscard]] double value() const { return value_; }
+  /// Sets Value.
   void advance_to(double value);
+
+ private:
+  double value_ = 0;
 };
 
 }  // namespace tarnmill

@@ -1,6 +1,7 @@
 #include "forms/workbench.h"
 
 #include <algorithm>
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -11,9 +12,15 @@
 
 namespace tarnmill {
 
-HandlerScope::HandlerScope(Workbench& workbench) : workbench_{workbench} { ++workbench_.depth_; }
+HandlerScope::HandlerScope(Workbench& workbench)
+    : workbench_{workbench}, exceptions_before_{std::uncaught_exceptions()} {
+  ++workbench_.depth_;
+}
 
-HandlerScope::~HandlerScope() { workbench_.leave_handler(); }
+HandlerScope::~HandlerScope() {
+  if (std::uncaught_exceptions() > exceptions_before_) workbench_.handler_failed_ = true;
+  workbench_.leave_handler();
+}
 
 Workbench::Workbench(Desk& desk) : desk_{desk} {}
 
@@ -48,6 +55,17 @@ std::vector<std::string_view> Workbench::window_names() const {
   std::vector<std::string_view> names;
   for (const auto& [name, factory] : factories_) names.push_back(name);
   return names;
+}
+
+std::optional<Fault> Workbench::attempt(const std::function<void()>& request) {
+  handler_failed_ = false;
+  try {
+    request();
+  } catch (const Fault& fault) {
+    if (handler_failed_) throw;
+    return fault;
+  }
+  return std::nullopt;
 }
 
 bool Workbench::enter(const std::function<void()>& entry) {

@@ -73,6 +73,11 @@ class Workbench {
   /// lets neither Fault nor Ended out. Returns false when the program has ended.
   bool enter(const std::function<void()>& entry);
 
+  /// Runs what somebody outside asks for, within an entry, and gives the fault of a request that is refused,
+  /// such as a value that a property can't take. A fault that leaves a handler or procedure of the program
+  /// passes.
+  [[nodiscard]] std::optional<Fault> attempt(const std::function<void()>& request);
+
   /// Ends the program at once, without the windows' unload handlers. Does not return.
   [[noreturn]] void end();
   [[nodiscard]] bool ended() const { return ended_; }
@@ -125,6 +130,8 @@ class Workbench {
   Control* focus_ = nullptr;
   std::optional<int> fault_;
   int depth_ = 0;
+  /// A handler has let a fault or an ending out since the last attempt began.
+  bool handler_failed_ = false;
   int mouse_pointer_ = 0;
   bool ended_ = false;
 

@@ -32,10 +32,6 @@ void frmFunc::rewrite_powers() {
   }
 }
 
-Text frmFunc::replace_all(const Text& text, const Text& find, const Text& replacement) const {
-  return tarnmill::ReplaceAll(text, find, replacement);
-}
-
 /// The expression keypad keeps a copy of the exponent under the same names.
 void frmFunc::copy_to_keypad(const Control& source, std::string_view property) {
   constexpr std::string_view keypad = "frmTast";

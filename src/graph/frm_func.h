@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "engine/evaluator.h"
+#include "engine/text.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
 #include "forms/common_dialog.h"
@@ -150,9 +151,6 @@ class frmFunc final : public Window {
   void print_point(double x, double y);
   ///@}
 
-  /// One pass of exact replacement.
-  [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
-
   /// \name The colour of the next curve: that of the axes, the chosen one, the second one
   ///@{
   void take_axis_color() { CurveColor = AxisColor.get(); }
@@ -274,11 +272,11 @@ class frmFunc final : public Window {
   Label lblImenilac{*this, "lblImenilac", parked};
   Label lblY3{*this, "lblY3", u"OK", parked};
   Label lblZbir{*this, "lblZbir", parked};
-  Label lblzm{*this, "lblzm", u"20", parked};
-  Label lblBoja{*this, "lblBoja", parked};
-  Label lblBoja2{*this, "lblBoja2", parked};
-  Label lblgrid{*this, "lblgrid", parked};
-  Label lblosa{*this, "lblosa", parked};
+  Label lblzm{*this, "lblzm", u"20", hidden};
+  Label lblBoja{*this, "lblBoja", hidden};
+  Label lblBoja2{*this, "lblBoja2", hidden};
+  Label lblgrid{*this, "lblgrid", hidden};
+  Label lblosa{*this, "lblosa", hidden};
   Label lblconv{*this, "lblconv", parked};
   Label lblUn{*this, "lblUn", parked};
   Label lbly{*this, "lbly", parked};
@@ -286,8 +284,8 @@ class frmFunc final : public Window {
   Button cmdEval{*this, "cmdEval", u"", u" Evaluate function Y(x) ", parked};
   Button cmdrad{*this, "cmdrad", u"", u" Convert Deg to Rad ", parked};
   Button cmdDrawCage{*this, "cmdDrawCage", u"&Grid", u" Show Grid ", parked};
-  RichTextBox rtb{*this, "rtb", parked};
-  PictureBox picINFO{*this, "picINFO", 200, 200, default_back_color, SurfaceUnit::pixel, parked};
+  RichTextBox rtb{*this, "rtb", hidden};
+  PictureBox picINFO{*this, "picINFO", 200, 200, default_back_color, SurfaceUnit::pixel, hidden};
   ///@}
 
   /// \name Procedures by name
@@ -305,7 +303,7 @@ class frmFunc final : public Window {
   Procedure digniga{*this, "digniga", &frmFunc::choose_y};
   Procedure Zamenisve{*this, "Zamenisve", &frmFunc::rewrite_powers};
   Procedure funcSave{*this, "funcSave", &frmFunc::save_to_history};
-  Procedure ReplaceAll{*this, "ReplaceAll", &frmFunc::replace_all};
+  Procedure ReplaceAll{*this, "ReplaceAll", &tarnmill::ReplaceAll};
   Procedure PrintLog2{*this, "PrintLog2", &frmFunc::open_history};
   Procedure Stampaj{*this, "Stampaj", &frmFunc::print_graph};
   Procedure PodesiPrnt{*this, "PodesiPrnt", &frmFunc::set_up_printer};

@@ -50,7 +50,7 @@ void frmunesit::take_point() {
   constexpr TextView pi = u"3.14159265358979";
   for (const auto& [find, put] : {Replacement{u"pi", pi}, Replacement{u"Pi", pi}, Replacement{u"e", u"e(1)"},
                                   Replacement{u"e", u"e(1)"}}) {
-    Text1.Text = ReplaceAll(Text1.Text.get(), find, put);
+    Text1.Text = tarnmill::ReplaceAll(Text1.Text.get(), find, put);
   }
   Text1.Text = NumberToText(evaluator().Evaluate(Text1.Text.get(), false), regional());
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "engine/evaluator.h"
+#include "engine/text.h"
 #include "forms/button.h"
 #include "forms/label.h"
 #include "forms/procedure.h"
@@ -28,6 +29,7 @@ class frmunesit final : public Window {
   Button Command1{*this, "Command1", u"OK"};
   Button Command2{*this, "Command2", u"Cancel"};
 
+  Procedure ReplaceAll{*this, "ReplaceAll", &tarnmill::ReplaceAll};
   Procedure osvezi{*this, "osvezi", &frmunesit::refresh_prompt};
 
  private:

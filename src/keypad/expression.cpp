@@ -55,10 +55,6 @@ Evaluator& frmTast::evaluator() {
   return *evaluator_;
 }
 
-Text frmTast::replace_all(const Text& text, const Text& find, const Text& replacement) const {
-  return tarnmill::ReplaceAll(text, find, replacement);
-}
-
 void frmTast::evaluate() { evaluator().Evaluate(Text1.Text.get(), false); }
 
 void frmTast::Command5_Click() {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "engine/evaluator.h"
+#include "engine/text.h"
 #include "forms/button.h"
 #include "forms/image.h"
 #include "forms/label.h"
@@ -29,8 +30,6 @@ class frmTast final : public Window {
   void clear_expression();
   /// Evaluates the expression as it stands.
   void evaluate();
-  /// One pass of exact replacement.
-  [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
   /// Shows another mode, then unloads this window.
   void go_to_calculator() { leave_for("Form1"); }
   void go_to_complex() { leave_for("frmComplex"); }
@@ -68,24 +67,24 @@ class frmTast final : public Window {
   Image img{*this, "img", u"graph", u" Graph Mode "};
   Image imc{*this, "imc", u"complex", u" Complex Mode "};
   Image imev{*this, "imev", u"advanced", u" Advanced Mode "};
-  Image im1g{*this, "im1g", u"graph", u"", parked};
-  Image im1gd{*this, "im1gd", u"graph-pressed", u"", parked};
-  Image im1cg{*this, "im1cg", u"complex", u"", parked};
-  Image im1cd{*this, "im1cd", u"complex-pressed", u"", parked};
-  Image im1ag{*this, "im1ag", u"advanced", u"", parked};
-  Image im1ad{*this, "im1ad", u"advanced-pressed", u"", parked};
+  Image im1g{*this, "im1g", u"graph", u"", hidden};
+  Image im1gd{*this, "im1gd", u"graph-pressed", u"", hidden};
+  Image im1cg{*this, "im1cg", u"complex", u"", hidden};
+  Image im1cd{*this, "im1cd", u"complex-pressed", u"", hidden};
+  Image im1ag{*this, "im1ag", u"advanced", u"", hidden};
+  Image im1ad{*this, "im1ad", u"advanced-pressed", u"", hidden};
   ///@}
 
   /// \name State held in controls off the window: the text before a conversion, and the hint of the power
   /// rule
   ///@{
-  Label lblconv{*this, "lblconv", parked};
-  Label lblGot{*this, "lblGot", parked};
-  Label lblY3{*this, "lblY3", u"OK", parked};
-  Label lblImenilac{*this, "lblImenilac", parked};
-  TextBox txtY2{*this, "txtY2", parked};
-  TextBox txtY3{*this, "txtY3", u"1", parked};
-  TextBox txtImenilac{*this, "txtImenilac", u"1", parked};
+  Label lblconv{*this, "lblconv", hidden};
+  Label lblGot{*this, "lblGot", hidden};
+  Label lblY3{*this, "lblY3", u"OK", hidden};
+  Label lblImenilac{*this, "lblImenilac", hidden};
+  TextBox txtY2{*this, "txtY2", hidden};
+  TextBox txtY3{*this, "txtY3", u"1", hidden};
+  TextBox txtImenilac{*this, "txtImenilac", u"1", hidden};
   ///@}
 
   /// \name Keys without behaviour
@@ -105,7 +104,7 @@ class frmTast final : public Window {
 
   /// \name Procedures by name
   ///@{
-  Procedure ReplaceAll{*this, "ReplaceAll", &frmTast::replace_all};
+  Procedure ReplaceAll{*this, "ReplaceAll", &tarnmill::ReplaceAll};
   Procedure cisti{*this, "cisti", &frmTast::clear_expression};
   Procedure rez2{*this, "rez2", &frmTast::evaluate};
   Procedure GoCalculator{*this, "GoCalculator", &frmTast::go_to_calculator};

@@ -1,6 +1,7 @@
 #include <array>
 #include <optional>
 
+#include "engine/checked.h"
 #include "engine/number_text.h"
 #include "forms/desk.h"
 #include "forms/workbench.h"
@@ -63,7 +64,7 @@ void MathPad::connect_formats() {
   mnuupper.Click.handle([this] { rt1.document().change_selection(upper_case); });
   mnulower.Click.handle([this] { rt1.document().change_selection(lower_case); });
   mnusuper.Click.handle(
-      [this] { raise_characters(mnusuper, mnusub, NumberFromText(cmbSize.Text.get()) * 5.5); });
+      [this] { raise_characters(mnusuper, mnusub, multiply(NumberFromText(cmbSize.Text.get()), 5.5)); });
   mnusub.Click.handle(
       [this] { raise_characters(mnusub, mnusuper, -NumberFromText(cmbSize.Text.get()) - 33); });
 }

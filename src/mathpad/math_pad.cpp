@@ -54,7 +54,10 @@ void MathPad::connect_menus() {
   mnuEditCopy.Click.handle(this, &MathPad::copy);
   mnuEditPaste.Click.handle(this, &MathPad::paste);
   mnuEditClear.Click.handle(this, &MathPad::clear_selection);
-  mnuselall.Click.handle([this] { rt1.document().select(0, rt1.document().length()); });
+  mnuselall.Click.handle([this] {
+    rt1.document().select(0, 0);
+    rt1.document().select(0, rt1.document().length());
+  });
   mnuline.Click.handle([this] {
     rt1.SetFocus();
     rt1.document().select_line();
@@ -67,8 +70,8 @@ void MathPad::connect_menus() {
 }
 
 void MathPad::Form_Load() {
-  fill_fonts();
   load_window_record();
+  fill_fonts();
   Form_Resize();
   rt1.Tag = u"notchange";
   LoadRecentFile(bench());

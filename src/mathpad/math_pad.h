@@ -38,7 +38,7 @@ class MathPad final : public Window {
   Label lblchar2{*this, "lblchar2", parked};
   Label lblchar{*this, "lblchar", parked};
   /// A picture on its way to the clipboard.
-  Image imubaci{*this, "imubaci", parked};
+  Image imubaci{*this, "imubaci", hidden};
   /// The print margins in inches.
   TextBox txtlevo{*this, "txtlevo", u"1", parked};
   TextBox txtDesno{*this, "txtDesno", u"1", parked};
@@ -192,6 +192,8 @@ class MathPad final : public Window {
   Procedure CanUndo{*this, "CanUndo", &MathPad::can_undo};
   Procedure CanPaste{*this, "CanPaste", &MathPad::can_paste};
   Procedure CanCopy{*this, "CanCopy", &MathPad::can_copy};
+  /// The entries of the File menu are an array of the same name, `mnuRecent`.
+  Procedure open_recent{*this, "mnuRecent", &MathPad::mnuRecent_Click};
   Procedure UndoType{*this, "UndoType", &MathPad::undo_type};
   Procedure RedoType{*this, "RedoType", &MathPad::redo_type};
   Procedure UndoName{*this, "UndoName", &MathPad::undo_name};

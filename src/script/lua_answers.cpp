@@ -47,6 +47,12 @@ FontAnswer font_at(lua_State* state, int index) {
   return font;
 }
 
+bool is_whole(lua_State* state, int index) {
+  int whole = 0;
+  lua_tointegerx(state, index, &whole);
+  return whole != 0;
+}
+
 }  // namespace
 
 Answer answer_at(lua_State* state, int index) {
@@ -54,8 +60,7 @@ Answer answer_at(lua_State* state, int index) {
     case LUA_TSTRING:
       return from_utf8(bytes_at(state, index));
     case LUA_TNUMBER:
-      return lua_isinteger(state, index) != 0 ? Answer{color_at(state, index)}
-                                              : Answer{text_at(state, index)};
+      return is_whole(state, index) ? Answer{color_at(state, index)} : Answer{text_at(state, index)};
     case LUA_TTABLE:
       return font_at(state, index);
     default:

@@ -26,7 +26,9 @@ int restart(lua_State* state) {
 
 int tick(lua_State* state) {
   const double milliseconds = luaL_checknumber(state, 1);
+  constexpr double longest = 1e9;
   luaL_argcheck(state, milliseconds >= 0, 1, "time passes forward only");
+  luaL_argcheck(state, milliseconds <= longest, 1, "no more than 1E+09 milliseconds at once");
   Session& session = Session::of(state);
   session.call(state, [&] { session.desk().tick(milliseconds); });
   return 0;

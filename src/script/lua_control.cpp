@@ -99,9 +99,9 @@ int control_call(lua_State* state) {
   Variant result;
   bool is_editor = false;
   session.call(state, [&] {
-    const Procedure* hidden = session.bench().window(reference.window).find_procedure(reference.name);
-    if (hidden != nullptr && hidden->arity() <= arguments.size()) {
-      result = (*hidden)(arguments);
+    const Procedure* beneath = session.bench().window(reference.window).find_procedure(reference.name);
+    if (beneath != nullptr && beneath->arity() <= arguments.size()) {
+      result = (*beneath)(arguments);
     } else if (Control* control = resolve(session.bench(), reference)) {
       is_editor = dynamic_cast<const RichTextBox*>(control) != nullptr;
       if (!is_editor) control->press();
@@ -162,6 +162,21 @@ int array_index(lua_State* state) {
   return 1;
 }
 
+/// A procedure of the array's name is run; otherwise an element may be named by a call as in other languages:
+/// Number(7).
+int array_call(lua_State* state) {
+  const auto& reference = self<ArrayReference>(state);
+  const std::vector<Variant> arguments = values_from(state, first_argument(state, 2));
+  Session& session = Session::of(state);
+  bool is_procedure = false;
+  session.call(state, [&] {
+    const Procedure* procedure = session.bench().window(reference.window).find_procedure(reference.name);
+    is_procedure = procedure != nullptr;
+    if (is_procedure) (*procedure)(arguments);
+  });
+  return is_procedure ? 0 : array_index(state);
+}
+
 int array_length(lua_State* state) {
   const auto& reference = self<ArrayReference>(state);
   Session& session = Session::of(state);
@@ -211,9 +226,7 @@ void register_controls(lua_State* state) {
 
   static constexpr std::array array_meta{
       luaL_Reg{"__index", array_index}, luaL_Reg{"__newindex", array_newindex},
-      // As in other languages an element may also be named by a call: Number(7).
-      luaL_Reg{"__call", array_index}, luaL_Reg{"__len", array_length},
-      luaL_Reg{"__tostring", array_to_text}};
+      luaL_Reg{"__call", array_call}, luaL_Reg{"__len", array_length}, luaL_Reg{"__tostring", array_to_text}};
   push_new_type(state, ArrayReference::type, array_meta);
   lua_pop(state, 1);
 }

@@ -22,8 +22,9 @@ struct ScriptService {
   ServiceEvaluator evaluator{random};
 };
 
-/// Calls the script's function with each sample while one statement runs. The first error in it ends the
-/// calls and is raised when the statement has ended, since it can't pass through the evaluator.
+/// Calls the script's function with each sample while one statement runs. A fault in it stays in it. The
+/// first other error ends the calls and is raised when the statement has ended, since it can't pass through
+/// the evaluator.
 class SampleCalls {
  public:
   SampleCalls(lua_State* state, ScriptService& service) : state_{state}, service_{service} {
@@ -44,7 +45,9 @@ class SampleCalls {
     lua_pushvalue(state_, 4);
     push_number(state_, x);
     push_number(state_, y);
-    failed_ = lua_pcall(state_, 2, 0, 0) != LUA_OK;
+    if (lua_pcall(state_, 2, 0, 0) == LUA_OK) return;
+    failed_ = !is_fault(state_, -1);
+    if (!failed_) lua_pop(state_, 1);
   }
 
   lua_State* state_;

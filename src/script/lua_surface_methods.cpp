@@ -48,9 +48,15 @@ struct PushOperation {
   }
 };
 
+/// The pixel at a coordinate; -1, outside, for what is no pixel of any surface.
+int pixel(double coordinate) {
+  constexpr double farthest = 1e6;
+  return std::fabs(coordinate) <= farthest ? static_cast<int>(std::lround(coordinate)) : -1;
+}
+
 int point(lua_State* state) {
-  const auto x = static_cast<int>(std::lround(number_at(state, 2)));
-  const auto y = static_cast<int>(std::lround(number_at(state, 3)));
+  const int x = pixel(number_at(state, 2));
+  const int y = pixel(number_at(state, 3));
   Color color = 0;
   with_control<PictureBox>(state, self<ControlReference>(state), "Point",
                            [&](const PictureBox& surface) { color = surface.Point(x, y); });

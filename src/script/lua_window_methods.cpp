@@ -1,13 +1,14 @@
 #include "script/lua_window_methods.h"
 
 #include <QPixmap>
-#include <QString>
 #include <QWidget>
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "desktop/picture_data.h"
 #include "forms/window.h"
 #include "script/lua_reference.h"
 #include "script/lua_value.h"
@@ -56,11 +57,12 @@ int controls(lua_State* state) {
 }
 
 int screenshot(lua_State* state) {
-  const QString path = QString::fromStdU16String(text_at(state, 2));
+  const std::filesystem::path path{bytes_at(state, 2)};
   Session& session = Session::of(state);
   bool saved = false;
-  const bool runs_on = with_window(
-      state, [&](Window& window) { saved = session.desk().view(window).grab().save(path, "PNG"); });
+  const bool runs_on = with_window(state, [&](Window& window) {
+    saved = desktop::save_image(session.desk().view(window).grab().toImage(), path, "PNG");
+  });
   if (runs_on && !saved) luaL_error(state, "the picture can't be written to %s", lua_tostring(state, 2));
   return 0;
 }

@@ -9,6 +9,7 @@ namespace tarnmill {
 
 namespace {
 
+constexpr const char* fault_type = "tarnmill.fault";
 constexpr const char* has_ended = "the program has ended; app.restart() starts it again";
 
 int fault_to_text(lua_State* state) {
@@ -42,13 +43,21 @@ void raise_fault(lua_State* state, const Fault& fault) {
   lua_setfield(state, -2, "fault");
   push_text(state, fault.description());
   lua_setfield(state, -2, "description");
-  if (luaL_newmetatable(state, "tarnmill.fault") != 0) {
+  if (luaL_newmetatable(state, fault_type) != 0) {
     lua_pushcfunction(state, fault_to_text);
     lua_setfield(state, -2, "__tostring");
   }
   lua_setmetatable(state, -2);
   lua_error(state);
   std::terminate();  // lua_error doesn't return, though its type doesn't say so.
+}
+
+bool is_fault(lua_State* state, int index) {
+  if (lua_getmetatable(state, index) == 0) return false;
+  luaL_getmetatable(state, fault_type);
+  const bool same = lua_rawequal(state, -1, -2) != 0;
+  lua_pop(state, 2);
+  return same;
 }
 
 Session::Session(lua_State* state, ScriptedProgram& program) : program_{program}, caller_{state} {
@@ -64,14 +73,16 @@ bool Session::call(lua_State* state, const std::function<void()>& entry) {
   if (depth_ == 0) desk().begin_call();
   bool runs_on = false;
   std::string problem;
+  std::optional<Fault> refusal;
   try {
     const Meanwhile deeper{depth_, depth_ + 1};
     const Meanwhile calling{caller_, state};
-    runs_on = bench().enter(entry);
+    runs_on = bench().enter([&] { refusal = bench().attempt(entry); });
   } catch (const std::exception& other) {
     problem = other.what();
   }
   if (!problem.empty()) luaL_error(state, "%s", problem.c_str());
+  if (refusal) raise_fault(state, *refusal);
   if (depth_ == 0) raise_errors_put_off(state);
   return runs_on;
 }

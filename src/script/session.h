@@ -29,9 +29,10 @@ class Session {
   [[nodiscard]] ScriptedDesk& desk() { return program_.desk(); }
   [[nodiscard]] Workbench& bench() { return program_.bench(); }
 
-  /// Runs `entry` as the event loop runs a handler: a fault that leaves it ends the program. False when the
-  /// program has ended in it. Raises a Lua error when the program had ended before, and the errors that were
-  /// put off until this call returned.
+  /// Runs `entry` as the event loop would: a fault that leaves a handler or procedure of the program ends it,
+  /// any other, such as that of a value that a property refuses, becomes a Lua error. False when the program
+  /// has ended in it. Raises a Lua error when the program had ended before, and the errors that were put off
+  /// until this call returned.
   bool call(lua_State* state, const std::function<void()>& entry);
 
   /// Runs a function of the engine: a fault becomes a Lua error, with its number and description. The
@@ -67,5 +68,7 @@ class Session {
 
 /// Raises a Lua error whose value is a table with the number and description of a fault.
 [[noreturn]] void raise_fault(lua_State* state, const Fault& fault);
+/// Whether the value at this index is such a table.
+[[nodiscard]] bool is_fault(lua_State* state, int index);
 
 }  // namespace tarnmill

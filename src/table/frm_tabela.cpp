@@ -84,8 +84,4 @@ void frmTabela::choose_font() {
   document.select(0, 0);
 }
 
-Text frmTabela::replace_all(const Text& text, const Text& find, const Text& replacement) const {
-  return tarnmill::ReplaceAll(text, find, replacement);
-}
-
 }  // namespace tarnmill

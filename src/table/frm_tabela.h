@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "engine/evaluator.h"
+#include "engine/text.h"
 #include "forms/button.h"
 #include "forms/field.h"
 #include "forms/frame.h"
@@ -33,8 +34,6 @@ class frmTabela final : public Window {
   void calculate();
   /// Lets a person choose the font of the table. Cancel changes nothing.
   void choose_font();
-  /// One pass of exact replacement.
-  [[nodiscard]] Text replace_all(const Text& text, const Text& find, const Text& replacement) const;
 
   Label Label16{*this, "Label16", u"Value Table"};
   Image Image5{*this, "Image5", u"minimise"};
@@ -55,20 +54,20 @@ class frmTabela final : public Window {
 
   /// \name The working expression, the second target of the chain, the rewritten function, and the last rule
   ///@{
-  TextBox Text3{*this, "Text3", parked};
-  TextBox Text3a{*this, "Text3a", parked};
-  TextBox Text4{*this, "Text4", parked};
-  TextBox Text15{*this, "Text15", u"X", parked};
-  TextBox Text16{*this, "Text16", u"x", parked};
+  TextBox Text3{*this, "Text3", hidden};
+  TextBox Text3a{*this, "Text3a", hidden};
+  TextBox Text4{*this, "Text4", hidden};
+  TextBox Text15{*this, "Text15", u"X", hidden};
+  TextBox Text16{*this, "Text16", u"x", hidden};
   ///@}
   ServiceControl Evaluator1{*this, "Evaluator1"};
-  Button Command1{*this, "Command1", u"Calculate", {}, parked};
+  Button Command1{*this, "Command1", u"Calculate", {}, hidden};
 
   Field<bool> StopTable{*this, "StopTable"};
 
   Procedure Calculate{*this, "Calculate", &frmTabela::calculate};
   Procedure ChooseFont{*this, "ChooseFont", &frmTabela::choose_font};
-  Procedure ReplaceAll{*this, "ReplaceAll", &frmTabela::replace_all};
+  Procedure ReplaceAll{*this, "ReplaceAll", &tarnmill::ReplaceAll};
 
  private:
   void Image7_Click();

@@ -121,7 +121,7 @@ TEST_F(Analysis, AWalkThatEndsShortOfItsRangeLeavesTheBar) {
   ask(u"x+9", u"0", u"1", u"0.3");
   click(&frmAnaliza::Image1);
   EXPECT_TRUE(form().pb1.Visible);
-  EXPECT_EQ(form().pb1.Value, 90);
+  EXPECT_EQ(form().pb1.value(), 90);
   ask(u"x+9", u"0", u"1", u"0.3", u"x");
   click(&frmAnaliza::Image5);
   EXPECT_FALSE(form().pb1.Visible);

@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
+#include <QTextEdit>
 #include <functional>
 #include <set>
 
@@ -34,6 +35,13 @@ class Accessibility : public ProgramByHand, public ::testing::WithParamInterface
     return found;
   }
 };
+
+/// Moves the focus as a person does: an editor takes the Tab key itself and is left with Ctrl.
+void step_on(QWidget& from) {
+  const auto* editor = qobject_cast<QTextEdit*>(&from);
+  const bool keeps_tab = editor != nullptr && !editor->isReadOnly() && !editor->tabChangesFocus();
+  QTest::keyClick(&from, Qt::Key_Tab, keeps_tab ? Qt::ControlModifier : Qt::NoModifier);
+}
 
 /// Calls `visit` with all that a screen reader can reach from `node`.
 void walk(QAccessibleInterface* node, const std::function<void(QAccessibleInterface&)>& visit) {
@@ -97,7 +105,7 @@ TEST_P(Accessibility, TabReachesEverything) {
   std::set<const QWidget*> reached;
   QWidget* at = &view();
   for (std::size_t i = 0; i < 4 * wanted.size() + 8; ++i) {
-    QTest::keyClick(view().focusWidget() == nullptr ? &view() : view().focusWidget(), Qt::Key_Tab);
+    step_on(at == nullptr ? view() : *at);
     at = view().focusWidget();
     if (at == nullptr) continue;
     reached.insert(at);
@@ -119,12 +127,6 @@ TEST_P(Accessibility, EveryKeyTakesTheFocusByTab) {
 
 class KeypadByHand : public ProgramByHand {};
 
-TEST_F(KeypadByHand, BeginsInItsExpression) {
-  show("frmTast");
-  ASSERT_NE(form("frmTast").focusWidget(), nullptr);
-  EXPECT_EQ(form("frmTast").focusWidget()->objectName(), "Text1");
-}
-
 TEST_F(KeypadByHand, ASelectionOutlivesTheWayToTheKeyThatUsesIt) {
   show("frmTast");
   QTest::keyClicks(&widget<QWidget>("frmTast", "Text1"), "sin30+1");
@@ -141,6 +143,28 @@ TEST_F(KeypadByHand, AKeyWhoseMenuHasClosedIsNotLeftPressed) {
   EXPECT_NE(bench.window("frmComplex").popup_shown(), nullptr);
   EXPECT_FALSE(widget("frmComplex", "cmdMemory2").isDown());
 }
+
+struct FirstFieldRow {
+  const char* window;
+  const char* field;
+};
+
+class FirstField : public ProgramByHand, public ::testing::WithParamInterface<FirstFieldRow> {};
+
+TEST_P(FirstField, HasTheFocusWhenTheWindowOpens) {
+  show(GetParam().window);
+  ASSERT_NE(form(GetParam().window).focusWidget(), nullptr);
+  EXPECT_EQ(form(GetParam().window).focusWidget()->objectName(), GetParam().field);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, FirstField,
+    ::testing::Values(FirstFieldRow{"Form1", "Readout"}, FirstFieldRow{"frmTast", "Text1"},
+                      FirstFieldRow{"frmFunc", "txtY"}, FirstFieldRow{"frmunesit", "Text1"},
+                      FirstFieldRow{"frmAnaliza", "txtformula"}, FirstFieldRow{"frmIntegral", "Text4"},
+                      FirstFieldRow{"frmTabela", "Text1"}, FirstFieldRow{"MathPad", "rt1"},
+                      FirstFieldRow{"frmFind", "Text1"}, FirstFieldRow{"frmPageSetup", "cboLeftMargin"},
+                      FirstFieldRow{"frmansi", "Grid1"}));
 
 struct MenuKeyRow {
   const char* window;
@@ -167,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, MenuKey,
 INSTANTIATE_TEST_SUITE_P(Windows, Accessibility,
                          ::testing::Values("Form1", "frmComplex", "frmTast", "frmFunc", "frmunesit",
                                            "frmAnaliza", "frmIntegral", "frmTabela", "frmAbout", "frmFind",
-                                           "frmPageSetup", "frmansi"));
+                                           "frmPageSetup", "frmansi", "MathPad"));
 
 }  // namespace
 }  // namespace tarnmill::desktop

@@ -17,7 +17,7 @@ class FormOf : public ProgramByHand, public ::testing::WithParamInterface<const 
 TEST_P(FormOf, EveryControlThatShowsHasItsWidget) {
   const std::unique_ptr<QWidget> form = build_form(GetParam());
   for (const Control* each : window().controls()) {
-    if (each->is_parked()) continue;
+    if (each->only_holds_state()) continue;
     EXPECT_NE(form->findChild<QWidget*>(widget_name(*each)), nullptr) << widget_name(*each).toStdString();
   }
 }
@@ -28,7 +28,7 @@ TEST_P(FormOf, NoWidgetLacksItsControl) {
     if (!names_a_control(each->objectName())) continue;
     const Control* control = control_named(window(), each->objectName());
     ASSERT_NE(control, nullptr) << each->objectName().toStdString();
-    EXPECT_FALSE(control->is_parked()) << each->objectName().toStdString();
+    EXPECT_FALSE(control->only_holds_state()) << each->objectName().toStdString();
   }
 }
 

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include "desktop/qt_rich_text.h"
 
 namespace tarnmill::desktop {
@@ -32,6 +35,14 @@ TEST_F(RichTextDocument, CountsALineBreakAsOnePosition) {
 TEST_F(RichTextDocument, EveryKindOfLineBreakBecomesOne) {
   rich.set_text(u"a\nb\rc\r\nd");
   EXPECT_EQ(rich.text(), u"a\r\nb\r\nc\r\nd");
+}
+
+TEST_F(RichTextDocument, EveryCodeUnitComesBackAsItWent) {
+  const Text odd = u"a\u00A0b\u00AD\u2003\uE000\xD83D\xDE00";
+  rich.set_text(odd);
+  EXPECT_EQ(rich.text(), odd);
+  select(1, 1);
+  EXPECT_EQ(rich.sel_text(), u"\u00A0");
 }
 
 TEST_F(RichTextDocument, NewTextForgetsTheHistoryAndTheSelection) {
@@ -95,6 +106,86 @@ TEST_F(RichTextDocument, EditsAreUndoneAndDoneAgain) {
   EXPECT_TRUE(rich.can_redo());
   rich.redo();
   EXPECT_EQ(rich.text(), u"bc");
+}
+
+TEST_F(RichTextDocument, ASelectionWrittenBackChangesNothing) {
+  rich.set_text(u"abc");
+  select(1, 2);
+  rich.replace_selection_rtf(rich.sel_rtf());
+  EXPECT_EQ(rich.text(), u"abc");
+  select(0, 3);
+  rich.copy();
+  rich.paste();
+  EXPECT_EQ(rich.text(), u"abc");
+}
+
+TEST_F(RichTextDocument, EachReplacementIsUndoneByItself) {
+  rich.replace_selection(u"abc");
+  rich.replace_selection(u"def");
+  rich.undo();
+  EXPECT_EQ(rich.text(), u"abc");
+}
+
+TEST_F(RichTextDocument, AnAlignmentThatItHasMakesNoStep) {
+  rich.set_sel_alignment(0);
+  EXPECT_FALSE(rich.can_undo());
+}
+
+TEST_F(RichTextDocument, NewTextInOtherFormatsTellsOfTheSelection) {
+  rich.set_text(u"abc");
+  select(0, 3);
+  rich.set_sel_char_offset(60);
+  select(0, 0);
+  selections = 0;
+  rich.set_text(u"def");
+  EXPECT_EQ(rich.sel_char_offset(), 0);
+  EXPECT_EQ(selections, 1);
+  rich.set_text(u"ghi");
+  EXPECT_EQ(selections, 1);
+}
+
+TEST_F(RichTextDocument, SignsOfFontsOutliveAFile) {
+  const Text signs = u"a\u0001\u0008\u000B\u001F\u007Fb";
+  rich.set_text(signs);
+  rich.set_rtf(rich.rtf());
+  EXPECT_EQ(rich.text(), signs);
+}
+
+TEST_F(RichTextDocument, TheHistoryTellsTheKindOfEachOfItsEdits) {
+  rich.set_text(u"abcd");
+  select(0, 2);
+  rich.cut();
+  rich.paste();
+  EXPECT_EQ(rich.undo_kind(), 5);
+  rich.undo();
+  EXPECT_EQ(rich.undo_kind(), 4);
+  EXPECT_EQ(rich.redo_kind(), 5);
+  rich.undo();
+  EXPECT_EQ(rich.undo_kind(), 0);
+  EXPECT_EQ(rich.redo_kind(), 4);
+  rich.redo();
+  rich.redo();
+  EXPECT_EQ(rich.undo_kind(), 5);
+  EXPECT_EQ(rich.redo_kind(), 0);
+}
+
+TEST_F(RichTextDocument, SeveralLinesAreCopiedWithTheProgramsLineBreaks) {
+  rich.set_text(u"one\r\ntwo");
+  select(1, 4);
+  rich.copy();
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "ne\r\nt");
+  select(0, 0);
+  rich.paste();
+  EXPECT_EQ(rich.text(), u"ne\r\ntone\r\ntwo");
+}
+
+TEST_F(RichTextDocument, ChangingTheCaseOfNothingChangesNothing) {
+  rich.set_text(u"abc");
+  select(1, 0);
+  changes = 0;
+  rich.change_selection([](TextView text) { return upper_case(text); });
+  EXPECT_EQ(changes, 0);
+  EXPECT_FALSE(rich.can_undo());
 }
 
 TEST_F(RichTextDocument, CutCopyAndPasteGoThroughTheClipboard) {

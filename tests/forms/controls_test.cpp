@@ -92,6 +92,19 @@ TEST_F(ControlsTest, ChoosingTheSameEntryAgainRaisesClickAgain) {
   EXPECT_EQ(window.notes, (Notes{"combo Sin", "combo Sin"}));
 }
 
+TEST_F(ControlsTest, ATextThatIsSetChoosesItsEntryWithoutAClick) {
+  window.combo.AddItem(u"Sin");
+  window.combo.AddItem(u"Cos");
+  window.combo.Text = u"Cos";
+  EXPECT_EQ(window.combo.ListIndex, 1);
+  window.combo.Text = u"Tan";
+  EXPECT_EQ(window.combo.ListIndex, -1);
+  EXPECT_TRUE(window.notes.empty());
+  window.combo.ListIndex = 1;
+  EXPECT_EQ(window.combo.Text.get(), u"Cos");
+  EXPECT_EQ(window.notes, Notes{"combo Cos"});
+}
+
 TEST_F(ControlsTest, AListIndexOutsideOfTheListIsRefused) {
   EXPECT_THROW(window.combo.ListIndex = 0, Fault);
   EXPECT_EQ(window.combo.ListIndex, -1);

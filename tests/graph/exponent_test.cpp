@@ -117,11 +117,6 @@ TEST_F(ExponentTest, ThePowersOfXStay) {
   EXPECT_EQ(form().txtX.Text.get(), u"K^2");
 }
 
-TEST_F(ExponentTest, ReplaceAllIsOneExactPass) {
-  EXPECT_EQ(form().replace_all(u"aXbxX", u"X", u"XX"), u"aXXbxXX");
-  EXPECT_EQ(form().replace_all(u"abc", u"X", u"Y"), u"abc");
-}
-
 /// The fields of the expression keypad that graph mode writes to.
 class KeypadFields final : public Window {
  public:

@@ -106,8 +106,8 @@ TEST_F(GridTest, APitchWiderThanTheSurfaceLeavesTheMiddleLines) {
 
 TEST(GridCoordinates, BelowAPixelEachPixelHasOneLine) {
   for (const double pitch : {0.5, 0.25, 1e-3, 1e-9, 1e-13}) {
-    const std::vector<double> up = grid_coordinates(200, 400, pitch);
-    const std::vector<double> down = grid_coordinates(200, 0, pitch);
+    const std::vector<double> up = grid_coordinates(200, 400, pitch, Direction::up);
+    const std::vector<double> down = grid_coordinates(200, 0, pitch, Direction::down);
     EXPECT_EQ(std::set<double>(up.begin(), up.end()).size(), up.size()) << pitch;
     EXPECT_EQ(up.size(), 201U) << pitch;
     EXPECT_EQ(down.size(), 201U) << pitch;

@@ -59,7 +59,7 @@ TEST_F(Keypad, ControlsHaveTheirWords) {
       {&form().NUMPAD6, "6"}, {&form().SHIFT1, "Shift"}, {&form().SHIFT2, "Shift"}};
   for (const auto& [key, caption] : captions) {
     EXPECT_EQ(to_utf8(key->Caption.get()), caption);
-    EXPECT_TRUE(key->is_parked());
+    EXPECT_TRUE(key->only_holds_state());
   }
 }
 

@@ -48,9 +48,10 @@ TEST(RtfBuilder, CutsTextIntoParagraphsAndRuns) {
 
 TEST(RtfBuilder, KeepsOutWhatWouldMeanSomethingElse) {
   DocumentBuilder builder;
-  builder.append(u"\u0001a\tb\r\n\u007F\u2029\u2028\uFFFC\uFDD1\uFFFE\uFFFFc\uFDF0", builder.format({}));
+  builder.append(Text{u"\0\u0001a\tb\r\n\u007F\u2029\u2028\uFFFC\uFDD1\uFFFE\uFFFFc\uFDF0", 16},
+                 builder.format({}));
   builder.end_paragraph(builder.paragraph_format({}), 0);
-  EXPECT_EQ(std::move(builder).finish().text, u"a\tb\u2028\u2028\uFFFD\uFFFD\uFFFD\uFFFDc\uFDF0");
+  EXPECT_EQ(std::move(builder).finish().text, u"\u0001a\tb\u007F\u2028\u2028\uFFFD\uFFFD\uFFFD\uFFFDc\uFDF0");
 }
 
 TEST(RtfBuilder, IsUnendedWhileItHasNoParagraph) {

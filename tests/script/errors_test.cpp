@@ -48,8 +48,11 @@ TEST_F(Errors, AFaultThatLeavesAProcedureEndsTheProgramWithoutAResult) {
   EXPECT_EQ(run("expect(select('#', frmFind.Fail(75)), 0) expect(app.fault, 75)"), "");
 }
 
-TEST_F(Errors, AFaultInTheSettingOfAPropertyEndsTheProgram) {
-  EXPECT_EQ(run("frmFind.txtA.SelStart = -1; expect(app.fault, 5)"), "");
+TEST_F(Errors, AValueThatAPropertyRefusesIsAnErrorOfTheScript) {
+  EXPECT_EQ(run(R"(
+    local fine, refusal = pcall(function() frmFind.txtA.SelStart = -1 end)
+    expect(fine, false) expect(refusal.fault, 5) expect(app.ended, false))"),
+            "");
 }
 
 TEST_F(Errors, EachCallAfterTheEndRaisesAnError) {

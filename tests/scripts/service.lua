@@ -23,6 +23,18 @@ local integral = run("Push(200)", "Push(0)", "Push(1)", "Intg(exp(x))")
 assert(math.abs(integral - (math.exp(1) - 1)) < 1e-12)
 assert(samples >= 200, samples)
 
+-- A fault in the listener stays there, and it hears of the samples that follow; other errors come out.
+local heard = 0
+service.SamplePoint = function()
+  heard = heard + 1
+  ToInteger(1e9)
+end
+assert(math.abs(run("Push(200)", "Push(0)", "Push(1)", "Intg(x^2)") - 1 / 3) < 1e-12)
+assert(heard >= 200, heard)
+service.SamplePoint = function() error("a mistake in the script") end
+expect.error("a mistake in the script", run, "Push(200)", "Push(0)", "Push(1)", "Intg(x^2)")
+service.SamplePoint = nil
+
 -- Values below the point stay on the stack; an instance keeps its own.
 local other = Veldrite.Evaluator()
 expect.fault(11, function() run("Push(1)", "Push(0)", "diff(1/x)") end)

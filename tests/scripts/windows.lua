@@ -55,3 +55,29 @@ frmFunc.GridColor = 0x8000000A
 expect(frmFunc.GridColor, -2147483638)
 frmFunc.pDraw.BackColor = 0x8000000A
 expect(frmFunc.pDraw.BackColor, -2147483638)
+
+-- Whoever rewrites expressions offers the replacement as well.
+for _, window in ipairs({ frmTast, frmIntegral, frmAnaliza, frmFunc, frmunesit, frmTabela }) do
+  expect(window.ReplaceAll("aXbxX", "X", "XX"), "aXXbxXX")
+end
+
+-- Hidden controls say so; those parked beyond the edge of a window do not.
+for _, control in ipairs({
+  Form1.Check1, Form1.lblMemory1, Form1.im1cd, frmComplex.checkb, frmComplex.Readout, frmComplex.txtmemoryReal,
+  frmTast.lblconv, frmTast.txtImenilac, frmTast.im1g, frmFunc.rtb, frmFunc.picINFO, frmAnaliza.imrootd, frmAnaliza.txtX,
+  frmIntegral.Text15, frmIntegral.imsd, frmTabela.Text3, frmTabela.Command1, MathPad.imubaci,
+}) do
+  expect(control.Visible, false)
+end
+expect(frmFunc.txtYs.Visible, true)
+expect(frmFunc.lblxy.Visible, true)
+
+-- A value that a property or field refuses is the script's own failure, and the program runs on; so is a statement
+-- that the service can't run.
+expect.fault(6, function() Form1.NumOps = 40000 end)
+expect.fault(13, function() frmComplex.ResultReal = "abc" end)
+expect.fault(5, function() frmComplex.ComboFunction.ListIndex = 99 end)
+expect.fault(380, function() frmAnaliza.pb1.Value = 150 end)
+expect.fault(1000, function() frmIntegral.Evaluator1.formula = "foo" end)
+expect(frmAnaliza.pb1.Value, 0)
+expect(app.ended, false)

@@ -1,5 +1,6 @@
 #include "desktop/binder/rich_text_binding.h"
 
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QKeyEvent>
 
@@ -67,7 +68,7 @@ void RichTextBinding::take_cursor() {
 
 bool RichTextBinding::eventFilter(QObject* watched, QEvent* event) {
   if (control() != nullptr && watched == &edit_ && event->type() == QEvent::KeyPress &&
-      exchange(dynamic_cast<QKeyEvent&>(*event))) {
+      (leave(dynamic_cast<QKeyEvent&>(*event)) || exchange(dynamic_cast<QKeyEvent&>(*event)))) {
     return true;
   }
   if (control() != nullptr && watched == edit_.viewport() && event->type() == QEvent::Drop &&
@@ -87,6 +88,16 @@ bool RichTextBinding::drop(QDropEvent& event) {
   return true;
 }
 
+bool RichTextBinding::leave(const QKeyEvent& key) {
+  const bool tab = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+  if (!tab || !key.modifiers().testFlag(Qt::ControlModifier)) return false;
+  QKeyEvent plain{QEvent::KeyPress, key.key(), key.modifiers() & ~Qt::ControlModifier};
+  edit_.setTabChangesFocus(true);
+  QCoreApplication::sendEvent(&edit_, &plain);
+  edit_.setTabChangesFocus(false);
+  return true;
+}
+
 bool RichTextBinding::exchange(const QKeyEvent& key) {
   if (key.matches(QKeySequence::Copy)) {
     enter([this] { rich_.copy(); });
@@ -94,6 +105,10 @@ bool RichTextBinding::exchange(const QKeyEvent& key) {
     enter([this] { rich_.cut(); });
   } else if (key.matches(QKeySequence::Paste)) {
     enter([this] { rich_.paste(); });
+  } else if (key.matches(QKeySequence::Undo)) {
+    enter([this] { rich_.undo(); });
+  } else if (key.matches(QKeySequence::Redo)) {
+    enter([this] { rich_.redo(); });
   } else {
     return false;
   }

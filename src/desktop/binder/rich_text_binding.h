@@ -28,7 +28,10 @@ class RichTextBinding final : public Binding {
   /// The selection dropped elsewhere in the editor keeps its formats; what comes from other programs is left
   /// to the toolkit, which takes it as plain text.
   bool drop(QDropEvent& event);
-  /// Cut, copy and paste go by the program's way, which keeps pictures and formats.
+  /// Ctrl+Tab and Ctrl+Shift+Tab lead out of the editor, which takes the Tab key as text.
+  bool leave(const QKeyEvent& key);
+  /// Cut, copy and paste go by the program's way, which keeps pictures and formats; so do undo and redo,
+  /// which thus know what kind of edit they take back.
   bool exchange(const QKeyEvent& key);
   void let_go();
 

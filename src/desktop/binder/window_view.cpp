@@ -45,7 +45,7 @@ void WindowView::bind_controls() {
     each->setMouseTracking(true);
     Control* control =
         names_a_control(each->objectName()) ? control_named(*window_, each->objectName()) : nullptr;
-    if (control == nullptr || control->is_parked()) continue;
+    if (control == nullptr || control->only_holds_state()) continue;
     bindings_.push_back(make_binding(*control, *each, *this));
     bindings_.back()->start();
     bind_face(*each);

@@ -28,6 +28,13 @@ constexpr double least_relative_step = 0x1p-46;
 // A result with less than this error, against its size or 1, is not sought again.
 constexpr double precise = 1e-10;
 
+// A result with less than this error, against its size or 1, is trusted: one of a smaller step that
+// contradicts it comes from rounding.
+constexpr double trusted = 1e-7;
+
+// Below this size of the point, or of 1, a step may be lost in the rounding of the function.
+constexpr double lost_step = 1e-9;
+
 // How many times its error a result may lie from another one that confirms it.
 constexpr double confirmation = 10;
 
@@ -38,19 +45,29 @@ constexpr double rounding_allowance = 4;
 constexpr double greatest_discrepancy = 1e-3;
 constexpr double greatest_rounding = 100;
 
+double against_one(double value) { return std::max(1.0, std::fabs(value)); }
+
 struct Candidate {
   double value = 0;
   double discrepancy = std::numeric_limits<double>::infinity();
   double rounding = 0;
 
   [[nodiscard]] double error() const { return discrepancy + rounding; }
+  [[nodiscard]] double relative_error() const { return error() / against_one(value); }
 };
+
+bool confirms(const Candidate& first, const Candidate& other) {
+  return std::fabs(other.value - first.value) <= confirmation * first.error();
+}
+
+bool is_trusted(const Candidate& candidate) { return candidate.relative_error() <= trusted; }
 
 // Rows of extrapolated quotients, one row for each step; only the last two are kept.
 class Extrapolation {
  public:
   // Takes the quotient of the next, smaller step and the size of the rounding in it.
   void take(double quotient, double rounding) {
+    has_differed_ = has_differed_ || quotient != 0;
     std::vector<double> row{quotient};
     double factor = 1;
     for (std::size_t column = 0; column < last_row_.size(); ++column) {
@@ -61,6 +78,19 @@ class Extrapolation {
       }
     }
     last_row_ = std::move(row);
+  }
+
+  // Whether equal values on both sides only show that the function can't tell the step from the point any
+  // more: the best result is no zero, or wider steps have made a difference and this one is `tiny`.
+  [[nodiscard]] bool expects_difference(bool tiny) const {
+    return std::fabs(best_.value) > confirmation * best_.error() || (tiny && has_differed_);
+  }
+
+  // The size by which the rounding of a value is told. A value that is small only beside those of wider steps
+  // may be what is left of terms about as large as these, which 1 stands for.
+  [[nodiscard]] double size_for(double value) {
+    largest_ = std::max(largest_, value);
+    return std::max(value, std::min(largest_, 1.0));
   }
 
   // Forgets the rows, so that what follows is not compared with what went before.
@@ -81,34 +111,31 @@ class Extrapolation {
       candidate.discrepancy =
           std::max(std::fabs(row[column] - row[column - 1]), std::fabs(row[column] - last_row_[column - 1]));
     }
-    if (candidate.error() < best_.error()) best_ = candidate;
+    if (candidate.relative_error() >= best_.relative_error()) return;
+    if (!is_trusted(best_) || confirms(best_, candidate)) best_ = candidate;
   }
 
   std::vector<double> last_row_;
   Candidate best_;
+  double largest_ = 0;
+  bool has_differed_ = false;
 };
-
-void take_quotient(const RealFunction& function, double x, double step, Extrapolation& extrapolation) {
-  const double right = function(x + step);
-  const double left = function(x - step);
-  const double size = std::max(std::fabs(left), std::fabs(right));
-  extrapolation.take(divide(subtract(right, left), 2 * step),
-                     finite(std::numeric_limits<double>::epsilon() * size / step));
-}
-
-double against_one(double value) { return std::max(1.0, std::fabs(value)); }
 
 bool is_settled(const Candidate& candidate) {
   const double greatest = greatest_discrepancy * against_one(candidate.value);
   return candidate.discrepancy <= std::max(greatest, greatest_rounding * candidate.rounding);
 }
 
-bool is_precise(const Candidate& candidate) {
-  return candidate.error() <= precise * against_one(candidate.value);
-}
+bool is_precise(const Candidate& candidate) { return candidate.relative_error() <= precise; }
 
-bool confirms(const Candidate& first, const Candidate& other) {
-  return std::fabs(other.value - first.value) <= confirmation * first.error();
+void take_quotient(const RealFunction& function, double x, double step, Extrapolation& extrapolation) {
+  const double right = function(x + step);
+  const double left = function(x - step);
+  const double difference = subtract(right, left);
+  if (difference == 0 && extrapolation.expects_difference(step < lost_step * against_one(x))) return;
+  const double size = extrapolation.size_for(std::max(std::fabs(left), std::fabs(right)));
+  extrapolation.take(divide(difference, 2 * step),
+                     finite(std::numeric_limits<double>::epsilon() * size / step));
 }
 
 // The best candidate of all steps from the wanted one downwards. When there is none, the fault of the last.

@@ -125,8 +125,8 @@ struct Paragraph {
 /// Rich text as plain data. Text and runs lie one after another for the whole document, and formats are told
 /// once each, so that a view makes its own objects of them once each. Made by a DocumentBuilder.
 struct Document {
-  /// The text of all paragraphs, without a mark between them. A line break in a paragraph is `line_break`, a
-  /// tab U+0009; there are no other control characters and no code points that are no characters.
+  /// The text of all paragraphs, without a mark between them. A line break in a paragraph is `line_break`;
+  /// there are no carriage returns, line feeds and zeros, and no code points that are no characters.
   Text text = {};
   std::vector<TextRun> runs;
   /// At least one.

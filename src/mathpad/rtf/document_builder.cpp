@@ -16,7 +16,8 @@ std::uint32_t index_of(const Value& value, std::map<Value, std::uint32_t>& indic
   return found->second;
 }
 
-constexpr bool is_control(char16_t c) { return (c < 0x20 && c != u'\t') || c == 0x7F; }
+/// What has a meaning of its own in files and texts. Other control characters are signs in some fonts.
+constexpr bool is_control(char16_t c) { return c == u'\0' || c == u'\n' || c == u'\r'; }
 
 constexpr bool is_no_character(char16_t c) { return (c >= 0xFDD0 && c <= 0xFDEF) || c >= 0xFFFE; }
 

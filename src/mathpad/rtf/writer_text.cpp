@@ -42,7 +42,7 @@ void write_special(char16_t c, std::string& out) {
   if (const auto byte = byte_of_page_1252(c)) {
     out += "\\'";
     write_byte(*byte, out);
-  } else if (c >= 0x20) {
+  } else {
     // The number has 16 bits with a sign; the question mark is for readers that know no numbers.
     out += "\\u" + std::to_string(static_cast<std::int16_t>(c)) + '?';
   }

@@ -74,6 +74,36 @@ TEST(ServiceDerivative, SurvivesCancellationInTheFunction) {
   EXPECT_NEAR(Service{}.derivative(u"x^3-3*x^2+3*x-1", 1), 0, 1e-9);
 }
 
+TEST(ServiceDerivative, SurvivesAZeroReachedByCancellation) {
+  const std::vector<Row> rows{
+      {u"hsin(x)", 0, 1},
+      {u"htan(x)", 0, 1},
+      {u"e^x-1", 0, 1},
+      {u"exp(x)-1", 0, 1},
+      {u"exp(x)+x-1-x", 0, 1},
+      {u"ln(1+x)", 0, 1},
+      {u"sqr(1+x)-1", 0, 0.5},
+      {u"harcsin(x)", 0, 1},
+      {u"harctan(x)", 0, 1},
+      {u"sin(x+pi)", 0, -1},
+      {u"e^x-e^(-x)", 0, 2},
+      {u"atn(x+1)-atn(1)", 0, 0.5},
+      {u"e^x-1-x", 1e-12, 1e-12},
+      {u"e^x-1-x", -1e-8, -1e-8},
+      {u"(1000000+x)-1000000", 0, 1},
+      {u"(100000000+x)-100000000", 0, 1},
+  };
+  for (const auto& [function, point, value] : rows) {
+    EXPECT_NEAR(Service{}.derivative(function, point), value, 1e-6) << to_utf8(function) << " at " << point;
+  }
+}
+
+TEST(ServiceDerivative, NearAPoleCountsTheErrorBesideTheValue) {
+  for (const double x : {1e-9, -1e-9, 8.8e-16}) {
+    EXPECT_NEAR(Service{}.derivative(u"1/x", x) * x * x, -1, 1e-6) << x;
+  }
+}
+
 TEST(ServiceDerivative, ACornerHasTheSlopeBetweenItsSides) {
   EXPECT_EQ(Service{}.derivative(u"abs(x)", 0), 0);
 }
@@ -97,6 +127,8 @@ TEST(ServiceDerivative, AnEndOfTheDomainHasNone) {
 }
 
 TEST(ServiceDerivative, AJumpAndAnInfiniteSlopeHaveNone) {
+  EXPECT_EQ(number_of_fault([] { Service{}.derivative(u"sgn(e^x-1)", 0); }), division_by_zero);
+  EXPECT_EQ(number_of_fault([] { Service{}.derivative(u"cbr(e^x-1)", 0); }), division_by_zero);
   EXPECT_EQ(number_of_fault([] { Service{}.derivative(u"sgn(x)", 0); }), division_by_zero);
   EXPECT_EQ(number_of_fault([] { Service{}.derivative(u"int(x)", 2); }), division_by_zero);
   EXPECT_EQ(number_of_fault([] { Service{}.derivative(u"cbr(x)", 0); }), division_by_zero);
