@@ -17,6 +17,12 @@ namespace {
 
 constexpr int usage_status = 2;
 
+/// Whether windows can be shown: the toolkit ends the process where there is no display.
+bool has_display() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
 /// Drops warnings: the toolkit misses a folder for sockets where nobody is logged in, which offscreen needs
 /// none.
 void without_warnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
@@ -52,6 +58,10 @@ int main(int argc, char** argv) {
   if (!options->windows) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(without_warnings);
+  }
+  if (options->windows && !has_display()) {
+    std::cerr << "tarnmill-script: --windows needs a display\n";
+    return usage_status;
   }
   // The script's arguments are not the toolkit's.
   int count = 1;

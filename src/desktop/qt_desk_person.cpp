@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -15,7 +14,6 @@
 #include "desktop/qt_raster.h"
 #include "desktop/qt_text.h"
 #include "desktop/skin/skin.h"
-#include "engine/fault.h"
 
 namespace tarnmill {
 
@@ -88,21 +86,6 @@ std::unique_ptr<QPrinter> QtDesk::make_printer() {
   if (chosen_printer_) return same_settings(*chosen_printer_);
   const QPrinterInfo info = QPrinterInfo::defaultPrinter();
   return info.isNull() ? nullptr : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
-}
-
-void QtDesk::print_picture(const Raster& picture, double x, double y) {
-  constexpr double twips_per_inch = 1440;
-  constexpr double twips_per_pixel = 15;
-  const std::unique_ptr<QPrinter> printer = make_printer();
-  if (!printer) throw Fault{FaultCode::PrinterError};
-  QPainter painter;
-  if (!painter.begin(printer.get())) throw Fault{FaultCode::PrinterError};
-  const double scale = printer->resolution() / twips_per_inch;
-  const QImage& image = desktop::image_of(picture);
-  painter.drawImage(QRectF{x * scale, y * scale, image.width() * twips_per_pixel * scale,
-                           image.height() * twips_per_pixel * scale},
-                    image);
-  if (!painter.end()) throw Fault{FaultCode::PrinterError};
 }
 
 }  // namespace tarnmill

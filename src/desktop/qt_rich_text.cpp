@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "desktop/qt_text.h"
+#include "desktop/without_layout.h"
 
 namespace tarnmill::desktop {
 
@@ -145,21 +146,15 @@ void QtRichText::select_line() {
   });
 }
 
-QTextCursor QtRichText::find_unseen(const QString& text, int start, QTextDocument::FindFlags flags) {
-  // Outside of an edit the toolkit lays out the whole paragraph of each place that it finds.
-  const bool changed = text_changed_;
-  cursor_.beginEditBlock();
-  const QTextCursor found = document_->find(text, start, flags);
-  cursor_.endEditBlock();
-  text_changed_ = changed;
-  return found;
-}
-
 int QtRichText::find(const Text& text, int start, bool whole_word, bool match_case) {
   QTextDocument::FindFlags flags;
   if (whole_word) flags |= QTextDocument::FindWholeWords;
   if (match_case) flags |= QTextDocument::FindCaseSensitively;
-  const QTextCursor found = find_unseen(lines_to_qt(text), std::clamp(start, 0, length()), flags);
+  QTextCursor found;
+  {
+    const WithoutLayout look{*document_};
+    found = document_->find(lines_to_qt(text), std::clamp(start, 0, length()), flags);
+  }
   if (found.isNull()) return -1;
   edit([&] { cursor_ = found; });
   return sel_start();

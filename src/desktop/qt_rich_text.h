@@ -103,8 +103,6 @@ class QtRichText final : public RichText {
   void watch_document();
   void merge(const QTextCharFormat& format);
   void insert_rtf(std::string_view bytes, int kind);
-  /// The next place of a text, null for none. Changes nothing.
-  [[nodiscard]] QTextCursor find_unseen(const QString& text, int start, QTextDocument::FindFlags flags);
   /// The parts of one format in the selection: position and length.
   [[nodiscard]] std::vector<std::pair<int, int>> selected_parts() const;
   using FormatVisitor = std::function<bool(const QTextCharFormat&)>;

@@ -7,6 +7,7 @@
 #include "desktop/qt_raster.h"
 #include "desktop/qt_rich_text.h"
 #include "desktop/qt_text.h"
+#include "desktop/without_layout.h"
 
 namespace tarnmill::desktop {
 
@@ -19,6 +20,7 @@ constexpr int short_selection = 64;
 }  // namespace
 
 void QtRichText::visit_characters(const FormatVisitor& visit) const {
+  const WithoutLayout look{*document_};
   QTextCursor probe{document_.get()};
   for (int i = cursor_.selectionStart(); i < cursor_.selectionEnd(); ++i) {
     if (document_->characterAt(i) == QChar::ParagraphSeparator) continue;

@@ -31,6 +31,9 @@ Text from_code_page_1252(std::string_view bytes) {
 
 [[noreturn]] void cannot_write() { throw Fault{fault_path_access, u"Path/File access error"}; }
 
+/// The system would take the path for what stands before the zero.
+bool holds_zero(const fs::path& path) { return path.native().find('\0') != std::string::npos; }
+
 /// Writes the bytes into the file itself; false when they don't all arrive.
 bool write_bytes(const fs::path& path, std::string_view bytes, std::ios::openmode mode) {
   std::ofstream file{path, std::ios::binary | mode};
@@ -69,7 +72,7 @@ std::string read_file(const fs::path& path) {
   std::error_code error;
   std::ifstream file{path, std::ios::binary};
   // A device may have no end.
-  if (!file || fs::is_directory(path, error) || fs::is_character_file(path, error))
+  if (!file || holds_zero(path) || fs::is_directory(path, error) || fs::is_character_file(path, error))
     throw Fault{fault_file_not_found, u"File not found"};
   std::string bytes{std::istreambuf_iterator<char>{file}, {}};
   if (file.bad()) throw Fault{fault_file_not_found, u"File not found"};
@@ -78,6 +81,7 @@ std::string read_file(const fs::path& path) {
 
 void write_file(const fs::path& path, std::string_view bytes) {
   std::error_code error;
+  if (holds_zero(path)) cannot_write();
   // A link stays one, and what it leads to is written.
   const fs::path end = fs::is_symlink(path, error) ? fs::weakly_canonical(path, error) : path;
   const fs::path target = error ? path : end;

@@ -83,6 +83,18 @@ TEST_F(FilesTest, TheRightsOfTheOldFileStay) {
   EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
+TEST_F(FilesTest, APathWithAZeroIsRefused) {
+  write_text_file(path, u"old");
+  const fs::path odd{path.string() + std::string{"\0rest", 5}};
+  EXPECT_EQ(fault_of([&] { write_text_file(odd, u"new"); }), 75);
+  EXPECT_EQ(fault_of([&] { static_cast<void>(read_text_file(odd)); }), 53);
+  EXPECT_EQ(read_text_file(path), u"old");
+}
+
+TEST_F(FilesTest, ADeviceIsNotReadToItsEnd) {
+  EXPECT_EQ(fault_of([] { static_cast<void>(read_file("/dev/zero")); }), 53);
+}
+
 TEST_F(FilesTest, AFullDiskIsAFault) {
   const fs::path full = program.folder() / "full.txt";
   fs::create_symlink("/dev/full", full);

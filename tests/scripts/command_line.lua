@@ -12,9 +12,9 @@ local function write(name, text)
 end
 
 -- Runs a command line; gives the exit status, and what came on the two outputs.
-local function run(words, input)
+local function run(words, input, before)
   local output, errors = app.folder .. "/output", app.folder .. "/errors"
-  local command = ("'%s' %s >'%s' 2>'%s' <'%s'"):format(interpreter, words, output, errors, input or "/dev/null")
+  local command = ("%s '%s' %s >'%s' 2>'%s' <'%s'"):format(before or "", interpreter, words, output, errors, input or "/dev/null")
   local _, _, status = os.execute(command)
   return status, assert(io.open(output)):read("a"), assert(io.open(errors)):read("a")
 end
@@ -91,3 +91,8 @@ expect(output, "false\t0\tnil\tnil\tnil\tnil\n")
 app.restart()
 expect(app.ended, false)
 expect(#app.dialogs, 0)
+
+-- Without a display windows can't be shown, which is said.
+status, output, errors = run(("--windows '%s'"):format(hello), nil, "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM")
+expect(status, 2)
+expect(errors, "tarnmill-script: --windows needs a display\n")

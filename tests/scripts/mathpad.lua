@@ -50,3 +50,27 @@ assert(frmansi.SB1.Panels(2).Text == "Dec: 65 Hex: 41 Bin: 01000001")
 assert(frmansi.SB1.Panels(3).Text == "ALT + 0065  (Num Key only)")
 assert(frmansi.Grid1.ColWidth(0) == 300)
 assert(DecToBin(10) == "00001010")
+
+-- A paragraph that goes over the end of a page stands on each page with its own lines alone.
+app.restart()
+local words = {}
+for i = 1, 3000 do words[i] = "w" .. i .. "." end
+MathPad.rt1.Text = table.concat(words, " ")
+app.printer = app.folder .. "/long.pdf"
+app.answer("ok")
+MathPad.cmdprint()
+local pages = assert(io.popen("pdftotext '" .. app.printer .. "' -")):read("a")
+local seen, count = {}, 0
+for word in pages:gmatch("w%d+%.") do
+  assert(not seen[word], word)
+  seen[word] = true
+  count = count + 1
+end
+assert(count == 3000, count)
+assert(select(2, pages:gsub("\f", "")) > 1)
+
+-- What is too large for a number is a fault of nobody's recovery.
+MathPad.rt1.SelStart, MathPad.rt1.SelLength = 0, 3
+MathPad.cmbSize.Text = "1e308"
+MathPad.mnusuper:Click()
+assert(app.ended and app.fault == 6)

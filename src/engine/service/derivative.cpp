@@ -28,10 +28,6 @@ constexpr double least_relative_step = 0x1p-46;
 // A result with less than this error, against its size or 1, is not sought again.
 constexpr double precise = 1e-10;
 
-// A result with less than this error, against its size or 1, is trusted: one of a smaller step that
-// contradicts it comes from rounding.
-constexpr double trusted = 1e-7;
-
 // Below this size of the point, or of 1, a step may be lost in the rounding of the function.
 constexpr double lost_step = 1e-9;
 
@@ -60,14 +56,13 @@ bool confirms(const Candidate& first, const Candidate& other) {
   return std::fabs(other.value - first.value) <= confirmation * first.error();
 }
 
-bool is_trusted(const Candidate& candidate) { return candidate.relative_error() <= trusted; }
-
 // Rows of extrapolated quotients, one row for each step; only the last two are kept.
 class Extrapolation {
  public:
   // Takes the quotient of the next, smaller step and the size of the rounding in it.
   void take(double quotient, double rounding) {
-    has_differed_ = has_differed_ || quotient != 0;
+    only_zeros_ = quotient == 0 && (is_first_ || only_zeros_);
+    is_first_ = false;
     std::vector<double> row{quotient};
     double factor = 1;
     for (std::size_t column = 0; column < last_row_.size(); ++column) {
@@ -81,9 +76,9 @@ class Extrapolation {
   }
 
   // Whether equal values on both sides only show that the function can't tell the step from the point any
-  // more: the best result is no zero, or wider steps have made a difference and this one is `tiny`.
+  // more: the best result is no zero, or the step is `tiny` and wider ones were not all equal as well.
   [[nodiscard]] bool expects_difference(bool tiny) const {
-    return std::fabs(best_.value) > confirmation * best_.error() || (tiny && has_differed_);
+    return std::fabs(best_.value) > confirmation * best_.error() || (tiny && !only_zeros_);
   }
 
   // The size by which the rounding of a value is told. A value that is small only beside those of wider steps
@@ -111,14 +106,14 @@ class Extrapolation {
       candidate.discrepancy =
           std::max(std::fabs(row[column] - row[column - 1]), std::fabs(row[column] - last_row_[column - 1]));
     }
-    if (candidate.relative_error() >= best_.relative_error()) return;
-    if (!is_trusted(best_) || confirms(best_, candidate)) best_ = candidate;
+    if (candidate.relative_error() < best_.relative_error()) best_ = candidate;
   }
 
   std::vector<double> last_row_;
   Candidate best_;
   double largest_ = 0;
-  bool has_differed_ = false;
+  bool is_first_ = true;
+  bool only_zeros_ = false;
 };
 
 bool is_settled(const Candidate& candidate) {

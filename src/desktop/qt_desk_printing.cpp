@@ -1,19 +1,14 @@
-// What the desk does with documents, pictures of files and fonts.
+// What the desk prints.
 #include <QAbstractTextDocumentLayout>
-#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
 #include <QTextBlock>
 #include <QTextLayout>
-#include <algorithm>
-#include <cmath>
 
-#include "desktop/picture_data.h"
 #include "desktop/qt_desk.h"
 #include "desktop/qt_raster.h"
 #include "desktop/qt_rich_text.h"
-#include "desktop/qt_text.h"
 #include "engine/fault.h"
 
 namespace tarnmill {
@@ -86,16 +81,18 @@ void QtDesk::print_document(const RichText& document, const PageMargins& margins
   print_pages(*printer, *laid_out(source, *printer, area), area);
 }
 
-std::unique_ptr<Raster> QtDesk::load_picture(const std::filesystem::path& path) {
-  QImage image = desktop::load_image(path);
-  if (image.isNull()) return nullptr;
-  return std::make_unique<desktop::QtRaster>(std::move(image));
-}
-
-std::vector<Text> QtDesk::font_names() {
-  std::vector<Text> names;
-  for (const QString& each : QFontDatabase::families()) names.push_back(desktop::from_qt(each));
-  return names;
+void QtDesk::print_picture(const Raster& picture, double x, double y) {
+  constexpr double twips_per_pixel = 15;
+  const std::unique_ptr<QPrinter> printer = make_printer();
+  if (!printer) throw Fault{FaultCode::PrinterError};
+  QPainter painter;
+  if (!painter.begin(printer.get())) throw Fault{FaultCode::PrinterError};
+  const double scale = printer->resolution() / twips_per_inch;
+  const QImage& image = desktop::image_of(picture);
+  painter.drawImage(QRectF{x * scale, y * scale, image.width() * twips_per_pixel * scale,
+                           image.height() * twips_per_pixel * scale},
+                    image);
+  if (!painter.end()) throw Fault{FaultCode::PrinterError};
 }
 
 }  // namespace tarnmill
