@@ -1,13 +1,14 @@
 // The editor on the screen with a document of ten megabytes: opening it, and a key typed into it.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QTextEdit>
 #include <fstream>
 
 #include "app/program.h"
 #include "mathpad/math_pad.h"
+#include "offscreen.h"
 #include "script/scripted_program.h"
 #include "script/temporary_folder.h"
 
@@ -64,10 +65,4 @@ BENCHMARK(type_into_ten_megabytes)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application{argc, argv};
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
+int main(int argc, char** argv) { return run_benchmarks_offscreen(argc, argv); }

@@ -1,11 +1,10 @@
 // Plots on a surface that no window shows: of 401 points each, and of the whole catalogue.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
 #include "app/program.h"
 #include "graph/catalogue.h"
 #include "graph/frm_func.h"
+#include "offscreen.h"
 #include "script/scripted_program.h"
 #include "script/temporary_folder.h"
 
@@ -54,10 +53,4 @@ BENCHMARK(catalogue)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application{argc, argv};
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
+int main(int argc, char** argv) { return run_benchmarks_offscreen(argc, argv); }

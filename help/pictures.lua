@@ -79,3 +79,15 @@ frmTabela.txtdole.Text = "0"
 frmTabela.txtgore.Text = "5"
 frmTabela.Image7:Click()
 take(frmTabela, "table")
+
+app.answer("yes")
+frmTabela.Image10:Click()
+local note, heading = MathPad.rt1, "Squares"
+note.SelStart = 0
+note.SelText = heading .. "\r\n\r\n"
+note.SelStart = 0
+note.SelLength = #heading
+note.SelBold = true
+note.SelFontSize = 16
+note.SelStart = #heading
+take(MathPad, "mathpad")

@@ -59,8 +59,10 @@ auto QtRichText::common(Value&& value) const -> std::optional<decltype(value(QTe
     visit_parts(take);
   }
   if (mixed) return std::nullopt;
-  // Nothing is selected, or nothing but line breaks.
-  return all ? all : value(cursor_.charFormat());
+  if (all) return all;
+  // A line break has the format of the paragraph that it begins.
+  if (cursor_.hasSelection()) return value(document_->findBlock(cursor_.selectionEnd()).charFormat());
+  return value(cursor_.charFormat());
 }
 
 void QtRichText::merge(const QTextCharFormat& format) {

@@ -108,6 +108,17 @@ TEST_F(RichTextDocument, EditsAreUndoneAndDoneAgain) {
   EXPECT_EQ(rich.text(), u"bc");
 }
 
+TEST_F(RichTextDocument, ALineBreakHasAFormat) {
+  rich.set_text(u"a\r\nb");
+  select(1, 1);
+  rich.set_sel_bold(true);
+  rich.set_sel_font_size(20);
+  EXPECT_EQ(rich.sel_bold(), true);
+  EXPECT_EQ(rich.sel_font_size(), 20);
+  select(2, 1);
+  EXPECT_EQ(rich.sel_bold(), false);
+}
+
 TEST_F(RichTextDocument, ASelectionWrittenBackChangesNothing) {
   rich.set_text(u"abc");
   select(1, 2);

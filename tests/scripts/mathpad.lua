@@ -70,7 +70,8 @@ assert(count == 3000, count)
 assert(select(2, pages:gsub("\f", "")) > 1)
 
 -- What is too large for a number is a fault of nobody's recovery.
-MathPad.rt1.SelStart, MathPad.rt1.SelLength = 0, 3
+MathPad.rt1.SelStart = 0
+MathPad.rt1.SelLength = 3
 MathPad.cmbSize.Text = "1e308"
 MathPad.mnusuper:Click()
 assert(app.ended and app.fault == 6)

@@ -32,7 +32,8 @@ void ToolbarBinding::start() {
 void ToolbarBinding::bind(ToolButton& tool, QAbstractButton& button) {
   // The program alone says whether it is down, so a click must not turn it itself.
   button.setCheckable(tool.kind() != ToolKind::plain);
-  button.setFocusPolicy(Qt::NoFocus);
+  // A click leaves the focus where it is; keys come here by Tab.
+  button.setFocusPolicy(Qt::TabFocus);
   watch(button);
   show_tool(tool, button);
   tool.observe(this, [&tool, &button](const PropertyBase&) { show_tool(tool, button); });

@@ -6,6 +6,15 @@
 
 namespace tarnmill::desktop {
 
+namespace {
+
+/// Not every platform counts it among its own.
+bool is_redo_of_many_programs(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier;
+}
+
+}  // namespace
+
 RichTextBinding::RichTextBinding(RichTextBox& box, QTextEdit& edit, WindowView& view)
     : Binding{box, edit, view}, edit_{edit}, rich_{dynamic_cast<QtRichText&>(box.document())} {}
 
@@ -107,7 +116,7 @@ bool RichTextBinding::exchange(const QKeyEvent& key) {
     enter([this] { rich_.paste(); });
   } else if (key.matches(QKeySequence::Undo)) {
     enter([this] { rich_.undo(); });
-  } else if (key.matches(QKeySequence::Redo)) {
+  } else if (key.matches(QKeySequence::Redo) || is_redo_of_many_programs(key)) {
     enter([this] { rich_.redo(); });
   } else {
     return false;
