@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t ten_megabytes = 10'000'000;
 
 std::filesystem::path write_document(const std::filesystem::path& folder) {
-  const std::filesystem::path path = folder / "long.rtf";
+  std::filesystem::path path = folder / "long.rtf";
   std::ofstream file{path, std::ios::binary};
   file << "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Tahoma;}}\r\n";
   while (static_cast<std::size_t>(file.tellp()) < ten_megabytes) {

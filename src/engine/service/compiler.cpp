@@ -129,9 +129,9 @@ class Compiler {
 
   void take_operator() {
     const char symbol = symbol_of(token_.kind);
-    const int precedence = precedence_of(symbol);
-    // An operator to the left with the same precedence goes first, but for "^", which groups to the right.
-    finish_until(symbol == '^' ? precedence + 1 : precedence);
+    // An operator to the left with the same precedence goes first. So do powers: "exp(x)^2" comes here as
+    // "e^(x)^2" and means the square of the exponential.
+    finish_until(precedence_of(symbol));
     waiting_.push_back({.kind = Waiting::Kind::combination, .symbol = symbol});
     const bool written = token_.kind != Token::Kind::number && token_.kind != Token::Kind::word &&
                          token_.kind != Token::Kind::open;

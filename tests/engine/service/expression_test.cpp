@@ -40,8 +40,8 @@ TEST(ServiceExpression, OperatorsHaveTheUsualPrecedence) {
                  {u"2-(3-4)", 3}});
 }
 
-TEST(ServiceExpression, PowersGroupToTheRight) {
-  expect_values({{u"2^3^2", 512}, {u"(2^3)^2", 64}, {u"2^(1/2)^2", std::pow(2, 0.25)}});
+TEST(ServiceExpression, PowersGroupToTheLeft) {
+  expect_values({{u"2^3^2", 64}, {u"2^(3^2)", 512}, {u"2^(1/2)^2", 2}, {u"e^(3)^2", std::exp(6)}});
 }
 
 TEST(ServiceExpression, ASignStraightBeforeANumberBelongsToIt) {
@@ -54,7 +54,7 @@ TEST(ServiceExpression, ASignStraightBeforeANumberBelongsToIt) {
                  {u"+5", 5},
                  {u"-2^2*3", 12},
                  {u"6/-2", -3},
-                 {u"2^-1^2", 2}});
+                 {u"2^-1^2", 0.25}});
 }
 
 TEST(ServiceExpression, AMinusBehindAnOperandIsAnOperator) {
