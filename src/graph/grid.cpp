@@ -14,7 +14,11 @@ std::vector<double> grid_coordinates(double origin, double end, double pitch, Di
   // Lines closer than a pixel fill every pixel; each is drawn once.
   const double step = std::max(pitch, 1.0);
   const double sign = direction == Direction::up ? 1 : -1;
-  for (double at = origin; sign * at <= sign * end; at += sign * step) coordinates.push_back(at);
+  double at = origin;
+  while (sign * at <= sign * end) {
+    coordinates.push_back(at);
+    at += sign * step;
+  }
   return coordinates;
 }
 

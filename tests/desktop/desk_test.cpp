@@ -139,7 +139,7 @@ TEST_F(DeskOfTheToolkit, AnEndingLeavesNoHourglass) {
 TEST_F(DeskOfTheToolkit, AViewOnDemandIsBuiltAndNotShown) {
   Workbench bench{desk};
   bench.add_window("SampleWindow", [](Workbench& w) { return std::make_unique<SampleWindow>(w); });
-  SampleWindow& sample = bench.window<SampleWindow>();
+  auto& sample = bench.window<SampleWindow>();
   bench.enter([&sample] { sample.Show(); });
   sample.notes.clear();
   QWidget& view = desk.view(sample);

@@ -30,10 +30,10 @@ void add_tool(QWidget& bar, const char* key) {
 std::unique_ptr<QWidget> editor_form(std::string_view /*window*/) {
   auto form = std::make_unique<QWidget>();
   add_widget<QTextEdit>(*form, "text", {0, 40, 200, 100});
-  QWidget* bar = add_widget<QWidget>(*form, "bar", {0, 0, 200, 40});
+  auto* bar = add_widget<QWidget>(*form, "bar", {0, 0, 200, 40});
   add_tool(*bar, "Go");
   add_tool(*bar, "Bold");
-  QWidget* status = add_widget<QWidget>(*form, "status", {0, 140, 200, 20});
+  auto* status = add_widget<QWidget>(*form, "status", {0, 140, 200, 20});
   for (const int panel : {1, 2}) {
     add_widget<QLabel>(*status, "deco_panel", {0, 0, 50, 20})->setProperty("panel", panel);
   }

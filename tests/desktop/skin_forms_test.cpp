@@ -77,7 +77,9 @@ TEST(CalculatorForm, FormsOfATrigonometricKeyLieOnTopOfEachOther) {
     for (const char* name : row.names) {
       EXPECT_EQ(built[name]->geometry(), QRect(row.x, 270, 60, 36)) << name;
     }
-    EXPECT_EQ(dynamic_cast<Key*>(built[row.names[2]])->superscript(), "-1");
+    const auto* inverse = dynamic_cast<Key*>(built[row.names[2]]);
+    ASSERT_NE(inverse, nullptr);
+    EXPECT_EQ(inverse->superscript(), "-1");
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <cmath>
 
 /// The colours of the windows, each named once.
 namespace tarnmill::desktop::palette {
@@ -84,8 +85,7 @@ inline constexpr QColor memory_yellow{255, 255, 0};
 /// `share` (0 to 1) of `other` mixed into `base`, each channel by itself, opaque.
 inline QColor mix(const QColor& base, const QColor& other, double share) {
   const auto channel = [share](int from, int to) {
-    return static_cast<int>(from + (to - from) * share +
-                            0.5);  // NOLINT(bugprone-incorrect-roundings): never < 0
+    return static_cast<int>(std::lround(from + (to - from) * share));
   };
   return {channel(base.red(), other.red()), channel(base.green(), other.green()),
           channel(base.blue(), other.blue())};

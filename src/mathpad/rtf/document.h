@@ -42,6 +42,7 @@ struct CharacterFormat {
   bool italic = false;
   bool underline = false;
   bool strike = false;
+  // NOLINTNEXTLINE(readability-implicit-bool-conversion): the check minds that it compares bools.
   friend auto operator<=>(const CharacterFormat&, const CharacterFormat&) = default;
 };
 
