@@ -6,7 +6,6 @@ namespace {
 
 constexpr Color yellow = 65535;
 constexpr Color blue = 12582912;
-constexpr int blink_interval = 900;
 
 }  // namespace
 
@@ -14,7 +13,6 @@ MemoryIndicator::MemoryIndicator(Button& store_key, Label& sign, Label& stored, 
     : store_key_{store_key}, sign_{sign}, stored_{stored}, timer_{timer} {
   store_key_.Picture.start_as(u"memory-empty");
   sign_.Visible.start_as(false);
-  timer_.Interval.start_as(blink_interval);
   sign_.ForeColor.start_as(blue);
   // Clearing fires this as well, so whoever clears hides the sign afterwards.
   stored_.Change.handle([this] { indicate(true); });
@@ -24,7 +22,7 @@ MemoryIndicator::MemoryIndicator(Button& store_key, Label& sign, Label& stored, 
 }
 
 void MemoryIndicator::start_blinking() {
-  timer_.Interval = blink_interval;
+  timer_.Interval = 900;
   timer_.Enabled = true;
 }
 

@@ -113,6 +113,7 @@ void QtRichText::select(int start, int length) {
 Text QtRichText::sel_text() const { return lines_from_qt(cursor_.selectedText()); }
 
 void QtRichText::replace_selection(const Text& text) {
+  if (text.empty() && !cursor_.hasSelection()) return;
   edit([&] {
     // A block of its own, or the toolkit would make one step of this edit and the one before.
     cursor_.beginEditBlock();

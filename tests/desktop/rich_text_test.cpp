@@ -130,6 +130,11 @@ TEST_F(RichTextDocument, ASelectionWrittenBackChangesNothing) {
   EXPECT_EQ(rich.text(), u"abc");
 }
 
+TEST_F(RichTextDocument, PuttingNothingInPlaceOfNothingChangesNothing) {
+  rich.replace_selection(u"");
+  EXPECT_EQ(changes, 0);
+}
+
 TEST_F(RichTextDocument, EachReplacementIsUndoneByItself) {
   rich.replace_selection(u"abc");
   rich.replace_selection(u"def");
