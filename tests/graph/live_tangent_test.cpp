@@ -43,8 +43,8 @@ TEST_F(LiveTangentTest, IsASegmentEightUnitsLongAboutThePoint) {
   EXPECT_EQ(form().TangentX->to_number({}), 0.5);
   EXPECT_EQ(form().TangentY->to_number({}), 1);
   EXPECT_NEAR(form().TangentSlope->to_number({}), 2, 1e-9);
-  const float across = static_cast<float>(80 * std::cos(std::atan(2.0)));
-  const float up = static_cast<float>(80 * std::sin(std::atan(2.0)));
+  const auto across = static_cast<float>(80 * std::cos(std::atan(2.0)));
+  const auto up = static_cast<float>(80 * std::sin(std::atan(2.0)));
   EXPECT_NEAR(form().Line1.X1, 210 - across, 1e-3);
   EXPECT_NEAR(form().Line1.Y1, 180 + up, 1e-3);
   EXPECT_NEAR(form().Line1.X2, 210 + across, 1e-3);

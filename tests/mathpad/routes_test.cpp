@@ -20,7 +20,7 @@ TEST_F(Routes, ATableIsEditedAndSaved) {
   table.txtgore.Text = u"3";
   table.Image7.press();
   const Text values = table.Text2.document().text();
-  ASSERT_NE(values.find(u"9"), Text::npos);
+  ASSERT_NE(values.find(u'9'), Text::npos);
   yes();
   table.Image10.press();
   ASSERT_TRUE(pad().Visible);
