@@ -58,7 +58,7 @@ TEST_F(SymbolChart, ItsFontHasASignForEachCode) {
 
 /// The program on a machine without the font of symbols.
 class ChartWithoutItsFont : public SymbolChart {
- protected:
+ public:
   ChartWithoutItsFont() { QFontDatabase::removeAllApplicationFonts(); }
   ~ChartWithoutItsFont() override {
     const QDir fonts{":/tarnmill/fonts"};
