@@ -104,6 +104,12 @@ TEST_F(GridTest, APitchWiderThanTheSurfaceLeavesTheMiddleLines) {
   EXPECT_EQ(columns(lines([&] { form().draw_lines(); })), std::set<float>{200});
 }
 
+TEST(GridCoordinates, GoNoWayPastTheirEnd) {
+  EXPECT_TRUE(grid_coordinates(1000, 400, 10, Direction::up).empty());
+  EXPECT_TRUE(grid_coordinates(-50, 0, 10, Direction::down).empty());
+  EXPECT_EQ(grid_coordinates(-50, 400, 20, Direction::up).size(), 23U);
+}
+
 TEST(GridCoordinates, BelowAPixelEachPixelHasOneLine) {
   for (const double pitch : {0.5, 0.25, 1e-3, 1e-9, 1e-13}) {
     const std::vector<double> up = grid_coordinates(200, 400, pitch, Direction::up);

@@ -53,3 +53,9 @@ expect(app.dialogs[2].answer, "yes")
 expect.error("an answer is a text", app.answer, nil)
 expect.error("an answer is a text", app.answer, true)
 expect.error("a font dialog has no Size", app.answer, { Size = 3 })
+
+-- Whole numbers are colours, however they are written.
+app.answer(2.0 ^ 16)
+frmFunc.Boje(2)
+expect(app.dialogs[#app.dialogs].kind, "color")
+expect(app.dialogs[#app.dialogs].answer, 65536)

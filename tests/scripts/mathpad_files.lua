@@ -126,6 +126,10 @@ MathPad.OpenCurrent()
 expect(MathPad.rt1.Text, "plain")
 MathPad.mnuRecent[2]:Click()
 expect(MathPad.Caption, "MathPad    " .. note)
+MathPad.mnuRecent(2)
+expect(MathPad.Caption, "MathPad    " .. app.folder .. "/other.txt")
+MathPad.mnuRecent(2)
+expect(MathPad.Caption, "MathPad    " .. note)
 
 -- A file that has gone leaves the note on the screen.
 os.remove(note)

@@ -47,3 +47,4 @@ until Form1.Label2.ForeColor == yellow
 assert(turns > 1)
 
 expect.error("time passes forward only", app.tick, -1)
+expect.error("no more than 1E+09 milliseconds at once", app.tick, math.huge)

@@ -81,3 +81,17 @@ expect.fault(380, function() frmAnaliza.pb1.Value = 150 end)
 expect.fault(1000, function() frmIntegral.Evaluator1.formula = "foo" end)
 expect(frmAnaliza.pb1.Value, 0)
 expect(app.ended, false)
+
+-- A box is ticked by true; no pixel lies outside of a surface.
+frmAnaliza.Check1.Value = true
+expect(frmAnaliza.Check1.Value, 1)
+expect(frmFunc.pDraw:Point(1e30, 0 / 0), -1)
+
+-- A root needs two numbers, also where the degree alone would stop it.
+Form1.cmdClearAll()
+Form1.Op1, Form1.OpFlag, Form1.NumOps, Form1.LastInput = "-", "nR", 1, "NUMS"
+Form1.Readout.Text = "0."
+app.forget()
+Form1.Operator_Click(4)
+expect(app.dialogs[1].text, "Invalid input.")
+expect(app.dialogs[1].icon, "information")
