@@ -24,12 +24,12 @@ void push_output(lua_State* state, double output) {
   }
 }
 
-/// Runs `computation` with a sink for its messages; its fault becomes a Lua error.
+/// Runs `computation` with a sink for its messages.
 template <class Computation>
 void compute(lua_State* state, Computation&& computation) {
   Workbench& bench = Session::of(state).bench();
-  Session::of(state).compute_inside(
-      state, [&] { computation([&bench](const MessageBox& box) { bench.message(box); }); });
+  Session::of(state).call(state,
+                          [&] { computation([&bench](const MessageBox& box) { bench.message(box); }); });
 }
 
 int run(lua_State* state, ComplexOperation operation, const ComplexOperands& z) {

@@ -69,8 +69,7 @@ int evaluate(lua_State* state) {
   const Text text = text_at(state, 2);
   const bool silent = lua_toboolean(state, 3) != 0;
   double value = 0;
-  const bool runs_on =
-      Session::of(state).compute_inside(state, [&] { value = evaluator.Evaluate(text, silent); });
+  const bool runs_on = Session::of(state).call(state, [&] { value = evaluator.Evaluate(text, silent); });
   if (!runs_on) return 0;
   push_number(state, value);
   return 1;
@@ -118,7 +117,7 @@ int factorial2(lua_State* state) {
 
 int push_result(lua_State* state, Evaluator& evaluator) {
   double value = 0;
-  if (!Session::of(state).compute_inside(state, [&] { value = evaluator.Result(); })) return 0;
+  if (!Session::of(state).call(state, [&] { value = evaluator.Result(); })) return 0;
   push_number(state, value);
   return 1;
 }

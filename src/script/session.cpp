@@ -97,19 +97,6 @@ void Session::compute(lua_State* state, const std::function<void()>& computation
   if (fault) raise_fault(state, *fault);
 }
 
-bool Session::compute_inside(lua_State* state, const std::function<void()>& computation) {
-  std::optional<Fault> fault;
-  const bool runs_on = call(state, [&] {
-    try {
-      computation();
-    } catch (const Fault& raised) {
-      fault = raised;
-    }
-  });
-  if (fault) raise_fault(state, *fault);
-  return runs_on;
-}
-
 void Session::restart(lua_State* state) {
   if (depth_ > 0) luaL_error(state, "the program can't be restarted while one of its handlers runs");
   program_.restart();

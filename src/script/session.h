@@ -35,13 +35,9 @@ class Session {
   /// until this call returned.
   bool call(lua_State* state, const std::function<void()>& entry);
 
-  /// Runs a function of the engine: a fault becomes a Lua error, with its number and description. The
-  /// program needs not run.
+  /// Runs a function of the engine that reaches into no window: a fault becomes a Lua error, with its number
+  /// and description. The program needs not run.
   static void compute(lua_State* state, const std::function<void()>& computation);
-
-  /// The same for one that reaches into the windows: raises a Lua error when the program has ended, and is
-  /// false when it has ended in it.
-  bool compute_inside(lua_State* state, const std::function<void()>& computation);
 
   /// Starts the program again. Raises a Lua error within a call.
   void restart(lua_State* state);

@@ -55,6 +55,40 @@ TEST_F(EditorByHand, TypingIsCountedAndAskedAbout) {
   EXPECT_EQ(pad().rt1.Tag.get(), u"change");
 }
 
+TEST_F(EditorByHand, EditsAreTakenBackAndDoneAgainByKeys) {
+  type("abc");
+  key("MathPad", Qt::Key_A, Qt::ControlModifier);
+  QCoreApplication::processEvents();
+  key("MathPad", Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(document().text(), u"");
+  key("MathPad", Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(document().text(), u"abc");
+  EXPECT_EQ(pad().redo_type(), 4);
+  key("MathPad", Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(document().text(), u"");
+  EXPECT_EQ(pad().undo_type(), 4);
+}
+
+TEST_F(EditorByHand, TabIsTextAndCtrlTabLeadsOut) {
+  key("MathPad", Qt::Key_Tab);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(document().text(), u"\t");
+  EXPECT_TRUE(edit().hasFocus());
+  key("MathPad", Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_FALSE(edit().hasFocus());
+  EXPECT_EQ(document().text(), u"\t");
+}
+
+TEST_F(EditorByHand, AToolIsPressedByTheSpaceBar) {
+  type("abc");
+  document().select(0, 3);
+  auto& bold = widget<QAbstractButton>("MathPad", "deco_bold");
+  bold.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&bold, Qt::Key_Space);
+  EXPECT_EQ(document().sel_bold(), true);
+  EXPECT_EQ(pad().Toolbar1.Buttons("Bold").Value, 1);
+}
+
 TEST_F(EditorByHand, TheMenusStandInTheirOrder) {
   QStringList captions;
   for (const QAction* each : menu_bar().actions()) captions += each->text();
