@@ -18,6 +18,14 @@ TEST(RtfBuilder, GivesEqualsTheSameIndex) {
   EXPECT_EQ(builder.paragraph_format({.tabs = {{720}}}), 0U);
 }
 
+TEST(RtfBuilder, KeepsOfAFontsNameWhatAFontTableCanHold) {
+  DocumentBuilder builder;
+  EXPECT_EQ(builder.font(u" \tTa;homa "), 0U);
+  EXPECT_EQ(builder.font(u"Tahoma"), 0U);
+  for (const TextView nameless : {u"", u" ", u";", u"\u0001; "}) EXPECT_EQ(builder.font(nameless), none);
+  EXPECT_EQ(std::move(builder).finish().fonts, std::vector<Text>{u"Tahoma"});
+}
+
 TEST(RtfBuilder, CutsTextIntoParagraphsAndRuns) {
   DocumentBuilder builder;
   const std::uint32_t plain = builder.format({});

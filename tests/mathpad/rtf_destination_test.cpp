@@ -1,4 +1,5 @@
 #include "mathpad/rtf/field_symbol.h"
+#include "mathpad/rtf/writer.h"
 #include "rtf_support.h"
 
 namespace tarnmill::rtf {
@@ -110,6 +111,15 @@ TEST(RtfSymbolField, ReadsItsInstruction) {
     ASSERT_TRUE(symbol) << to_utf8(instruction);
     EXPECT_EQ(symbol->glyph, glyph) << to_utf8(instruction);
     EXPECT_EQ(symbol->font, font) << to_utf8(instruction);
+  }
+}
+
+TEST(RtfSymbolField, WithoutANameForItsFontTakesTheOneAroundIt) {
+  for (const std::string_view font : {";", "\"  \"", "\\'03"}) {
+    const Document document =
+        read_body(R"(\f1{\field{\*\fldinst SYMBOL 97 \\f )" + std::string{font} + "}{\\fldrslt}}");
+    EXPECT_EQ(font_of(document, u"\uF061"), "Courier") << font;
+    EXPECT_EQ(read(write(document)), document) << font;
   }
 }
 

@@ -51,9 +51,7 @@ class RandomDocument {
 
   CharacterFormat format() {
     static constexpr TextView names[]{u"Tahoma", u"Times New Roman", u"Š;ć π", u"x{}\\"};
-    Text name{names[below(4)]};
-    std::erase(name, u';');
-    return {.font = builder_.font(name),
+    return {.font = builder_.font(names[below(4)]),
             .half_points = 1 + below(200),
             .rise = below(40) - 20,
             .color = below(2) == 0 ? std::optional<Rgb>{} : Rgb{static_cast<std::uint8_t>(below(256)), 7, 9},

@@ -132,6 +132,7 @@ struct Document {
   std::vector<TextRun> runs;
   /// At least one.
   std::vector<Paragraph> paragraphs;
+  /// As `font_name` makes them, so none is empty.
   std::vector<Text> fonts;
   std::vector<CharacterFormat> formats;
   std::vector<ParagraphFormat> paragraph_formats;

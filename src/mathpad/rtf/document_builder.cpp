@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "mathpad/rtf/font_name.h"
+
 namespace tarnmill::rtf {
 namespace {
 
@@ -27,8 +29,9 @@ constexpr bool is_plain(char16_t c) {
 
 }  // namespace
 
-std::uint32_t DocumentBuilder::font(const Text& name) {
-  return index_of(name, font_indices_, document_.fonts);
+std::uint32_t DocumentBuilder::font(TextView name) {
+  const Text held = font_name(name);
+  return held.empty() ? none : index_of(held, font_indices_, document_.fonts);
 }
 
 std::uint32_t DocumentBuilder::format(const CharacterFormat& format) {

@@ -11,8 +11,8 @@ namespace tarnmill::rtf {
 /// first one used is 0. Equals are found by order, not by hash, so no input makes the search slow.
 class DocumentBuilder {
  public:
-  /// The index of a font's name.
-  std::uint32_t font(const Text& name);
+  /// The index of a font's name, without what no font table can hold; `none` when nothing is left of it.
+  std::uint32_t font(TextView name);
   /// The index of a character format.
   std::uint32_t format(const CharacterFormat& format);
   /// The index of a paragraph format.

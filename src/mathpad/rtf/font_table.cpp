@@ -1,15 +1,8 @@
 #include "mathpad/rtf/font_table.h"
 
+#include "mathpad/rtf/font_name.h"
+
 namespace tarnmill::rtf {
-namespace {
-
-TextView trimmed(TextView text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == TextView::npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
-
-}  // namespace
 
 void FontTable::begin(std::int32_t number) {
   end();
@@ -35,8 +28,7 @@ void FontTable::add_characters(TextView text) {
 }
 
 void FontTable::end() {
-  std::erase_if(name_, [](char16_t c) { return c < 0x20; });
-  name_ = Text{trimmed(name_)};
+  name_ = font_name(name_);
   if (!name_.empty()) fonts_[number_] = {.name = name_, .encoding = encoding()};
   name_.clear();
   charset_.reset();

@@ -48,7 +48,7 @@ void Reader::put_field_symbol(const CharacterState& characters) {
   const CharacterState around = std::exchange(state_.characters, characters);
   CharacterFormat format = character_format();
   state_.characters = around;
-  if (!symbol->font.empty()) format.font = builder_.font(symbol->font);
+  if (const std::uint32_t font = builder_.font(symbol->font); font != none) format.font = font;
   builder_.append(text, builder_.format(format));
 }
 

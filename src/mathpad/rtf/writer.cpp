@@ -51,11 +51,8 @@ class Writer {
   void write_fonts() {
     out_ += "{\\fonttbl";
     for (std::size_t i = 0; i < document_.fonts.size(); ++i) {
-      // The semicolon ends a name, so no name can hold one.
-      Text name = document_.fonts[i];
-      std::erase(name, u';');
       out_ += numbered("{\\f", static_cast<std::int64_t>(i)) + "\\fnil\\fcharset0 ";
-      write_text(name, out_);
+      write_text(document_.fonts[i], out_);
       out_ += ";}";
     }
     out_ += '}';
