@@ -29,6 +29,9 @@ endfunction()
 
 set(TARNMILL_CORE_ROOMS
   engine forms calculator complex keypad graph analysis calculus table mathpad shell)
+if(TARNMILL_FUZZ)
+  set(TARNMILL_CORE_ROOMS engine mathpad/rtf)
+endif()
 tarnmill_room_sources(core_sources ${TARNMILL_CORE_ROOMS})
 tarnmill_library(tarnmill_core core_scope ${core_sources})
 add_library(tarnmill::core ALIAS tarnmill_core)
