@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "desktop/pair_decoder.h"
 #include "desktop/picture_data.h"
 #include "desktop/qt_rich_text.h"
 #include "desktop/qt_text.h"
@@ -43,7 +44,7 @@ std::string QtRichText::sel_rtf() const {
 }
 
 void QtRichText::set_rtf(std::string_view bytes) {
-  const rtf::Document source = rtf::read(bytes);
+  const rtf::Document source = rtf::read(bytes, decode_pairs);
   std::unique_ptr<QTextDocument> fresh = make_document();
   fresh->setUndoRedoEnabled(false);
   PictureStore pictures;
@@ -55,7 +56,7 @@ void QtRichText::set_rtf(std::string_view bytes) {
 void QtRichText::replace_selection_rtf(std::string_view bytes) { insert_rtf(bytes, any_edit); }
 
 void QtRichText::insert_rtf(std::string_view bytes, int kind) {
-  const rtf::Document source = rtf::read(bytes);
+  const rtf::Document source = rtf::read(bytes, decode_pairs);
   edit(
       [&] {
         cursor_.beginEditBlock();

@@ -167,6 +167,15 @@ TEST_F(RichTextDocument, SignsOfFontsOutliveAFile) {
   EXPECT_EQ(rich.text(), signs);
 }
 
+TEST_F(RichTextDocument, EastAsianTextOfACodePageOutlivesAFile) {
+  rich.set_rtf(
+      R"({\rtf1\ansi{\fonttbl{\f0\fcharset128 \'82\'6c\'82\'72 \'96\'be\'92\'a9;}}\f0 \'93\'fa\'96\'7b!})");
+  rich.set_rtf(rich.rtf());
+  EXPECT_EQ(rich.text(), u"日本!");
+  select(0, 2);
+  EXPECT_EQ(rich.sel_font_name(), u"ＭＳ 明朝");
+}
+
 TEST_F(RichTextDocument, TheHistoryTellsTheKindOfEachOfItsEdits) {
   rich.set_text(u"abcd");
   select(0, 2);

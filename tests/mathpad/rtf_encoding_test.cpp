@@ -44,7 +44,7 @@ TEST(RtfEncoding, AByteWithoutACharacterIsReplaced) {
   EXPECT_EQ(decoded("\xFF", encoding_of_page(874)), u"\uFFFD");
 }
 
-TEST(RtfEncoding, PagesOfTwoBytesGiveOneReplacementAPair) {
+TEST(RtfEncoding, WithoutTablesPagesOfTwoBytesGiveOneReplacementAPair) {
   for (const std::int32_t page : {932, 936, 949, 950, 1361}) {
     EXPECT_EQ(decoded("a\x83\x41z\x83", encoding_of_page(page)), u"a\uFFFDz\uFFFD") << page;
   }

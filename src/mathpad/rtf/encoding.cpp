@@ -56,21 +56,13 @@ char16_t decode_byte(std::uint8_t byte, const Encoding& encoding) {
   }
 }
 
-void decode_pairs(std::string_view bytes, Text& text) {
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const std::uint8_t byte = code_of(bytes[i]);
-    text += byte < 0x80 ? char16_t{byte} : replacement;
-    if (byte >= 0x80) ++i;
-  }
-}
-
 }  // namespace
 
 Encoding encoding_of_page(std::int32_t page) {
   if (page == utf8_page) return {.kind = Encoding::Kind::utf8};
   if (page == glyphs_page) return {.kind = Encoding::Kind::glyphs};
   if (std::ranges::find(double_byte_pages, page) != double_byte_pages.end()) {
-    return {.kind = Encoding::Kind::double_byte};
+    return {.kind = Encoding::Kind::double_byte, .page = page};
   }
   const TextView upper = upper_half_of_page(page);
   return {.upper = upper.empty() ? upper_half_of_page(windows_western) : upper};
@@ -85,11 +77,21 @@ std::optional<Encoding> encoding_of_charset(std::int32_t charset, TextView font_
   return encoding_of_page(found->page);
 }
 
-void decode(std::string_view bytes, const Encoding& encoding, Text& text) {
+Text replace_pairs(std::int32_t, std::string_view bytes) {
+  Text text;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const std::uint8_t byte = code_of(bytes[i]);
+    text += byte < 0x80 ? char16_t{byte} : replacement;
+    if (byte >= 0x80) ++i;
+  }
+  return text;
+}
+
+void decode(std::string_view bytes, const Encoding& encoding, Text& text, PairDecoder pairs) {
   if (encoding.kind == Encoding::Kind::utf8) {
     text += from_utf8(bytes);
   } else if (encoding.kind == Encoding::Kind::double_byte) {
-    decode_pairs(bytes, text);
+    text += pairs(encoding.page, bytes);
   } else {
     for (const char byte : bytes) text += decode_byte(code_of(byte), encoding);
   }

@@ -14,7 +14,7 @@ struct Encoding {
     /// ASCII and a table for the bytes above it.
     single_byte,
     utf8,
-    /// Two bytes a character above ASCII; there is no table for them, so each pair is U+FFFD.
+    /// Two bytes a character above ASCII, by a code page of which only a PairDecoder has the tables.
     double_byte,
     /// Glyphs of a font without meaning to others: byte n is the private character U+F000 + n.
     glyphs,
@@ -24,7 +24,16 @@ struct Encoding {
   Kind kind = Kind::single_byte;
   /// The characters of the bytes 128 to 255, for a single-byte page.
   TextView upper = {};
+  /// The number of a double-byte page.
+  std::int32_t page = 0;
 };
+
+/// Decodes bytes of a double-byte Windows code page (932, 936, 949, 950, 1361). Bytes that no character has
+/// give U+FFFD.
+using PairDecoder = Text (*)(std::int32_t page, std::string_view bytes);
+
+/// The decoder without tables: ASCII as it is, U+FFFD for each pair.
+[[nodiscard]] Text replace_pairs(std::int32_t page, std::string_view bytes);
 
 /// The encoding of a Windows code page number. A page that is not known counts as 1252.
 [[nodiscard]] Encoding encoding_of_page(std::int32_t page);
@@ -33,7 +42,7 @@ struct Encoding {
 [[nodiscard]] std::optional<Encoding> encoding_of_charset(std::int32_t charset, TextView font_name);
 
 /// Adds the characters of bytes to a text. Bytes that no character has give U+FFFD.
-void decode(std::string_view bytes, const Encoding& encoding, Text& text);
+void decode(std::string_view bytes, const Encoding& encoding, Text& text, PairDecoder pairs = replace_pairs);
 
 /// The character that a private character U+F020 to U+F0FF stands for in an encoding, any other as it is.
 [[nodiscard]] char16_t public_character(char16_t c, const Encoding& encoding);

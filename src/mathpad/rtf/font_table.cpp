@@ -14,7 +14,7 @@ void FontTable::add_bytes(std::string_view bytes, const Encoding& document) {
   const auto own = encoding();
   const bool is_glyphs = own && (own->kind == Encoding::Kind::glyphs || own->kind == Encoding::Kind::symbol);
   Text text;
-  decode(bytes, own && !is_glyphs ? *own : document, text);
+  decode(bytes, own && !is_glyphs ? *own : document, text, pairs_);
   add_characters(text);
 }
 

@@ -18,6 +18,8 @@ struct DeclaredFont {
 /// Gathers the font table of an RTF file: a number, a character set, and a name that ends at a semicolon.
 class FontTable {
  public:
+  explicit FontTable(PairDecoder pairs) : pairs_{pairs} {}
+
   /// Begins the declaration of a font by its number in the file; the one before it ends.
   void begin(std::int32_t number);
   /// The character set or the code page of the font that was begun. The page wins.
@@ -35,6 +37,7 @@ class FontTable {
  private:
   [[nodiscard]] std::optional<Encoding> encoding() const;
 
+  PairDecoder pairs_;
   std::map<std::int32_t, DeclaredFont> fonts_;
   std::int32_t number_ = 0;
   std::optional<std::int32_t> charset_;

@@ -9,7 +9,7 @@ namespace tarnmill::rtf {
 
 bool is_rtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }
 
-Document read(std::string_view bytes) { return Reader{bytes}.read(); }
+Document read(std::string_view bytes, PairDecoder pairs) { return Reader{bytes, pairs}.read(); }
 
 Document Reader::read() && {
   while (!is_finished_) handle(tokens_.next());
@@ -133,7 +133,7 @@ void Reader::flush() {
     fonts_.add_bytes(pending_, document_encoding_);
   } else {
     Text text;
-    decode(pending_, encoding(), text);
+    decode(pending_, encoding(), text, pairs_);
     put(text);
   }
   pending_.clear();

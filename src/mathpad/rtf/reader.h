@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "mathpad/rtf/document.h"
+#include "mathpad/rtf/encoding.h"
 
 namespace tarnmill::rtf {
 
@@ -14,7 +15,8 @@ namespace tarnmill::rtf {
 /// bytes and with nothing that they claim.
 ///
 /// Text of headers, footers, notes and comments and hidden text is left out; tables become lines with tabs;
-/// of fields and objects the result is kept that was stored with them.
-[[nodiscard]] Document read(std::string_view bytes);
+/// of fields and objects the result is kept that was stored with them. East Asian text is as good as the
+/// decoder given.
+[[nodiscard]] Document read(std::string_view bytes, PairDecoder pairs = replace_pairs);
 
 }  // namespace tarnmill::rtf

@@ -17,7 +17,7 @@ namespace tarnmill::rtf {
 /// does is a member function, and `find_word` is the table that leads to it.
 class Reader {
  public:
-  explicit Reader(std::string_view bytes) : tokens_{bytes} {}
+  Reader(std::string_view bytes, PairDecoder pairs) : tokens_{bytes}, pairs_{pairs}, fonts_{pairs} {}
 
   /// Reads to the end of the first group or of the bytes.
   [[nodiscard]] Document read() &&;
@@ -110,6 +110,7 @@ class Reader {
   ///@}
 
   Tokenizer tokens_;
+  PairDecoder pairs_;
   DocumentBuilder builder_;
   FontTable fonts_;
   ColorTable colors_;
