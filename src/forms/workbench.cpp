@@ -18,7 +18,7 @@ HandlerScope::HandlerScope(Workbench& workbench)
 }
 
 HandlerScope::~HandlerScope() {
-  if (std::uncaught_exceptions() > exceptions_before_) workbench_.handler_failed_ = true;
+  workbench_.handler_failed_ = std::uncaught_exceptions() > exceptions_before_;
   workbench_.leave_handler();
 }
 

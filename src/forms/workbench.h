@@ -130,7 +130,7 @@ class Workbench {
   Control* focus_ = nullptr;
   std::optional<int> fault_;
   int depth_ = 0;
-  /// A handler has let a fault or an ending out since the last attempt began.
+  /// The handler that ended last since the attempt began let a fault or an ending out.
   bool handler_failed_ = false;
   int mouse_pointer_ = 0;
   bool ended_ = false;

@@ -112,6 +112,29 @@ TEST_F(WorkbenchTest, AFaultThatReachesTheEventLoopShowsTheRuntimesMessageAndEnd
   EXPECT_EQ(shown.buttons, MessageButtons::ok);
 }
 
+TEST_F(WorkbenchTest, AFaultOutsideTheProgramsHandlersIsARefusal) {
+  const auto refusal = bench.attempt([] { throw Fault{FaultCode::TypeMismatch}; });
+  ASSERT_TRUE(refusal.has_value());
+  EXPECT_TRUE(refusal->is(FaultCode::TypeMismatch));
+  EXPECT_FALSE(bench.attempt([] {}).has_value());
+}
+
+TEST_F(WorkbenchTest, AFaultThatLeavesAHandlerIsNoRefusal) {
+  sample().timer.Tick.handle([this] { sample().fail(); });
+  EXPECT_THROW(static_cast<void>(bench.attempt([this] { sample().timer.Tick.raise(); })), Fault);
+}
+
+TEST_F(WorkbenchTest, AFaultThatAHandlerRecoveredFromLeavesARefusalOne) {
+  sample().timer.Tick.handle([this] { sample().fail(); });
+  sample().cmd.Click.handle([this] { resume_next([this] { sample().timer.Tick.raise(); }); });
+  const auto refusal = bench.attempt([this] {
+    sample().cmd.Click.raise();
+    throw Fault{FaultCode::TypeMismatch};
+  });
+  ASSERT_TRUE(refusal.has_value());
+  EXPECT_TRUE(refusal->is(FaultCode::TypeMismatch));
+}
+
 TEST_F(WorkbenchTest, EndingPassesEveryRecovery) {
   bool went_on = false;
   bench.enter([&] { resume_next([&] { bench.end(); }, [&] { went_on = true; }); });
