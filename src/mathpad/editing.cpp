@@ -105,7 +105,7 @@ void MathPad::rt1_SelChange() {
   // While raised or lowered text is written, the box of sizes keeps the size that it is measured by.
   const bool with_size = !mnusuper.Checked && !mnusub.Checked;
   show_selection_format(with_size);
-  adjust_buttons_2();
+  show_selection_in_toolbar();
   color_tip_from_selection();
 }
 
@@ -125,7 +125,11 @@ void MathPad::adjust_buttons() {
 }
 
 void MathPad::adjust_buttons_2() {
-  show_selection_format(!mnusuper.Checked && !mnusub.Checked);
+  show_selection_format(true);
+  show_selection_in_toolbar();
+}
+
+void MathPad::show_selection_in_toolbar() {
   if (const std::optional<int> alignment = rt1.document().sel_alignment()) {
     const int button = *alignment == 2 ? center_button : *alignment == 1 ? right_button : left_button;
     Toolbar1.Buttons(button).Value = 1;

@@ -246,6 +246,7 @@ class MathPad final : public Window {
   void find_next();
 
   void show_selection_format(bool with_size);
+  void show_selection_in_toolbar();
   void toggle(std::string_view key, ComputedProperty& property);
   void mark_raised();
   void apply_size();

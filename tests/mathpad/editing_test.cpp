@@ -159,6 +159,16 @@ TEST_F(Editing, OneOfTheTwoEndsTheOther) {
   EXPECT_FALSE(pad().mnusuper.Checked);
 }
 
+TEST_F(Editing, TheToolbarAskedToShowTheSelectionShowsItsSizeToo) {
+  type(u"x");
+  all();
+  pad().cmbSize.Text = u"12";
+  pad().mnusuper.press();
+  pad().adjust_buttons_2();
+  EXPECT_EQ(pad().cmbSize.Text.get(), u"8.4");
+  EXPECT_TRUE(pad().mnusuper.Checked);
+}
+
 TEST_F(Editing, TheBaseSizeStaysWhileRaisedTextIsWritten) {
   type(u"x");
   pad().cmbSize.Text = u"12";
