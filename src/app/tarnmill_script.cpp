@@ -36,7 +36,11 @@ int run_script(const tarnmill::ScriptOptions& options) {
       options.folder ? std::filesystem::absolute(*options.folder) : temporary.emplace().path();
   const auto views = options.windows ? tarnmill::Views::eager : tarnmill::Views::on_demand;
   tarnmill::ScriptedProgram program{folder, views, tarnmill::start_program};
-  tarnmill::Script script{program, [&] { temporary.reset(); }};
+  const auto leave = [&] {
+    program.desk().keep_settings();
+    temporary.reset();
+  };
+  tarnmill::Script script{program, leave};
   const std::string error = script.run(options.interpreter, options.file, options.arguments);
   if (error.empty()) return EXIT_SUCCESS;
   std::cerr << "tarnmill-script: " << error << '\n';

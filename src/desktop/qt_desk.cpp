@@ -115,7 +115,7 @@ bool QtDesk::show_help(const std::filesystem::path& file, std::int32_t /*topic*/
 bool QtDesk::previous_instance() {
   if (!lock_) {
     lock_ = std::make_unique<QLockFile>(file_name(folder_ / lock_name));
-    // A program runs for days; only the end of its process frees the folder.
+    // A program runs for days; only its end frees the folder.
     lock_->setStaleLockTime(0);
   }
   if (lock_->isLocked() || lock_->tryLock()) return false;
@@ -134,8 +134,12 @@ void QtDesk::set_mouse_pointer(int shape) {
   }
 }
 
+void QtDesk::keep_settings() { settings_->flush(); }
+
 void QtDesk::quit() {
-  settings_->flush();
+  keep_settings();
+  // The process may live on, but no program runs in the folder any more.
+  lock_.reset();
   set_mouse_pointer(0);
   // Without a loop that runs there is none to leave, and the next would not begin. Not quit(), which would
   // ask each window whether it may close.

@@ -91,6 +91,9 @@ class QtDesk : public Desk {
   void set_mouse_pointer(int shape) override;
   void quit() override;
 
+  /// Brings the settings to the disk, for a process that ends without taking the desk down.
+  void keep_settings();
+
  protected:
   /// The printer that prints when a window prints; null when there is none.
   [[nodiscard]] virtual std::unique_ptr<QPrinter> make_printer();

@@ -66,11 +66,12 @@ end
 
 -- A folder that is named is made, used and kept.
 local kept = app.folder .. "/kept"
-local count = write("count.lua", [[
+local count_source = [[
   local n = GetRegistrySetting("Software", "Tarnmill", "", "n", 0) + 1
   SaveRegistrySetting("Software", "Tarnmill", "", "n", n)
   print(n, app.folder)
-]])
+]]
+local count = write("count.lua", count_source)
 status, output = run(("--folder '%s' '%s'"):format(kept, count))
 expect(output, "1\t" .. kept .. "\n")
 status, output = run(("--offscreen --folder '%s' '%s'"):format(kept, count))
@@ -91,6 +92,22 @@ expect(output, "false\t0\tnil\tnil\tnil\tnil\n")
 app.restart()
 expect(app.ended, false)
 expect(#app.dialogs, 0)
+
+-- Once ended it leaves the folder to others, and runs in it again when they have gone.
+Form1.cmdExit:Click()
+status, output = run(("--folder '%s' '%s'"):format(app.folder, second))
+expect(output, "false\t0\tnil\tnil\tnil\tnil\n")
+app.restart()
+expect(app.ended, false)
+status, output = run(("--folder '%s' '%s'"):format(app.folder, second))
+expect(output:match("^true\t1"), "true\t1")
+
+-- What is stored outlives a script that leaves at once.
+local leaver = write("leaver.lua", count_source .. "os.exit(0)")
+status, output = run(("--folder '%s' '%s'"):format(kept, leaver))
+expect(output, "3\t" .. kept .. "\n")
+status, output = run(("--folder '%s' '%s'"):format(kept, leaver))
+expect(output, "4\t" .. kept .. "\n")
 
 -- Without a display windows can't be shown, which is said.
 status, output, errors = run(("--windows '%s'"):format(hello), nil, "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM")
