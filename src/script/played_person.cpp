@@ -143,10 +143,12 @@ bool PlayedPerson::set_up_printer(const PrinterDialog& dialog) {
   DialogShown shown = record_of(DialogShown::Kind::printer, {});
   shown.buttons = MessageButtons::ok_cancel;
   shown.flags = dialog.flags;
-  const MessageResult button = pressed({u"the printer dialog", {}, {}, MessageButtons::ok_cancel, 1});
-  shown.answer = button;
+  std::optional<MessageResult> button =
+      pressed({u"the printer dialog", {}, {}, MessageButtons::ok_cancel, 1});
+  if (button != MessageResult::ok) button.reset();
+  shown.answer = given(button);
   dialogs_.push_back(std::move(shown));
-  return button == MessageResult::ok;
+  return button.has_value();
 }
 
 }  // namespace tarnmill

@@ -136,6 +136,9 @@ TEST(PlayedPerson, ConfirmsThePrinterDialog) {
   EXPECT_FALSE(person.set_up_printer({}));
   EXPECT_FALSE(person.set_up_printer({}));
   EXPECT_EQ(person.dialogs()[0].kind, DialogShown::Kind::printer);
+  EXPECT_TRUE(std::holds_alternative<MessageResult>(person.dialogs()[0].answer));
+  EXPECT_TRUE(std::holds_alternative<std::monostate>(person.dialogs()[1].answer));
+  EXPECT_TRUE(std::holds_alternative<std::monostate>(person.dialogs()[2].answer));
 }
 
 TEST(PlayedPerson, ForgetsTheRecordAndTheQueue) {
