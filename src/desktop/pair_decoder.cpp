@@ -16,7 +16,7 @@ Text decode_pairs(std::int32_t page, std::string_view bytes) {
   // Behind a zero no character is incomplete, and one cut short is told.
   const QByteArray ended = QByteArray{bytes.data(), static_cast<qsizetype>(bytes.size())} + '\0';
   Text text = from_qt(decoder(ended));
-  text.pop_back();
+  if (text.ends_with(u'\0')) text.pop_back();
   // The tables of some pages put the old sign of substitution.
   std::ranges::replace(text, u'\u001A', u'\uFFFD');
   return text;
