@@ -24,6 +24,9 @@ class MenuKey : public ::testing::Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&desk.view(graph())));
   }
 
+  /// A menu takes the release to itself, so the tester of the toolkit has the button down still.
+  void TearDown() override { QTest::mouseRelease(&key(), Qt::LeftButton); }
+
   frmFunc& graph() { return bench.window<frmFunc>(); }
   Key& key() { return *desk.view(graph()).findChild<Key*>("cmdZoom"); }
 
