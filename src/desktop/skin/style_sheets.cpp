@@ -151,12 +151,12 @@ QMenu::separator { height: 1px; background: @track; margin: 4px 8px; }
 QMenu::indicator { width: 16px; height: 16px; left: 6px; }
 QMenu::indicator:checked { image: url(":/tarnmill/icons/tick.svg"); }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
-QDialogButtonBox QPushButton { background: @paper; color: @ink; border: 1px solid @bone-line; border-bottom-width: 3px;
+QDialog QPushButton { background: @paper; color: @ink; border: 1px solid @bone-line; border-bottom-width: 3px;
   border-radius: 6px; min-width: 52px; padding: 4px 12px; }
-QDialogButtonBox QPushButton:hover { background: white; }
-QDialogButtonBox QPushButton:pressed { background: @bone-hover; border-bottom-width: 1px; padding: 6px 12px 4px; }
-QDialogButtonBox QPushButton:focus { border: 2px solid @focus-light; padding: 4px 11px; }
-QDialogButtonBox QPushButton:disabled { color: @faded; }
+QDialog QPushButton:hover { background: white; }
+QDialog QPushButton:focus { border: 2px solid @focus-light; padding: 4px 11px; }
+QDialog QPushButton:pressed { background: @bone-hover; border: 1px solid @bone-line; padding: 6px 12px 4px; }
+QDialog QPushButton:disabled { color: @faded; }
 )");
 }
 
