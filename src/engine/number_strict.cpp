@@ -5,22 +5,17 @@
 #include "engine/fault.h"
 #include "engine/number_parts.h"
 #include "engine/number_text.h"
+#include "engine/trim.h"
 
 namespace tarnmill {
 namespace {
 
 constexpr TextView blanks = u" \t\n\v\f\r";
 
-TextView trimmed(TextView text) {
-  const std::size_t first = text.find_first_not_of(blanks);
-  if (first == TextView::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 // Reads one whole number text from its front; what is taken is cut off.
 class StrictReader {
  public:
-  StrictReader(TextView text, const Regional& regional) : rest_{trimmed(text)}, regional_{regional} {}
+  StrictReader(TextView text, const Regional& regional) : rest_{trimmed(text, blanks)}, regional_{regional} {}
 
   std::optional<detail::NumberParts> read() {
     const bool taken = front() == u'&' ? take_prefixed() : take_decimal();

@@ -1,20 +1,11 @@
 #include "forms/control.h"
 
+#include "engine/trim.h"
 #include "forms/control_array.h"
 #include "forms/window.h"
 #include "forms/workbench.h"
 
 namespace tarnmill {
-
-namespace {
-
-Text without_blanks_around(const Text& text) {
-  const auto first = text.find_first_not_of(u' ');
-  if (first == Text::npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
-
-}  // namespace
 
 Control::Control(Window& window, std::string_view name, Place place)
     : Node{name}, window_{window}, place_{place} {
@@ -32,10 +23,10 @@ Control::~Control() {
 void Control::SetFocus() { workbench().set_focus(this); }
 
 Text Control::accessible_name() const {
-  Text name = without_blanks_around(ToolTipText);
+  Text name{trimmed(ToolTipText.get())};
   if (!name.empty()) return name;
   const auto* caption = dynamic_cast<const Property<Text>*>(find_property("Caption"));
-  return caption == nullptr ? Text{} : without_blanks_around(caption->get());
+  return caption == nullptr ? Text{} : Text{trimmed(caption->get())};
 }
 
 ControlArrayBase::ControlArrayBase(Window& window, std::string_view name, int first)
